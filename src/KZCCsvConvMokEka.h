@@ -1,0 +1,63 @@
+// The operations of the library, one per request.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "KZCConvertResultEka.h"
+#include "XercesGuards.h"
+
+/// All texts are NUL-terminated UTF-8 and may be null unless said otherwise. Every operation but
+/// Terminate returns the one result record, which stays owned here and shows the last request, or
+/// null if it could not be made. No operation throws.
+class KZCCsvConvMokEka
+{
+public:
+    KZCCsvConvMokEka();
+    virtual ~KZCCsvConvMokEka();
+    KZCCsvConvMokEka(const KZCCsvConvMokEka&) = delete;
+    KZCCsvConvMokEka& operator=(const KZCCsvConvMokEka&) = delete;
+
+    KZCConvertResultEka* CsvCheck(const char* szCsvPathName);
+    KZCConvertResultEka* CsvConvMok(const char* szCsvPathName,
+                                    const char* szMokPathName,
+                                    const char* szZeimushoCD,
+                                    const char* szNozeishaId,
+                                    const char* szKojinBango,
+                                    const char* szHojinBango,
+                                    const char* szNozeishaNm,
+                                    const char* szNozeishaAdr,
+                                    const char* szDaihyoNm,
+                                    const char* szDairiId,
+                                    const char* szDairiNm,
+                                    const char* szDairiAdr,
+                                    const char* szTetsuzuki,
+                                    const char* szSoftName);
+    KZCConvertResultEka* ELCsvCheck(const char* szCsvPathName, long lCsvDistKey);
+    KZCConvertResultEka* ELCsvConvMok(long lCsvDistKey,
+                                      const char* szZeimushoCD,
+                                      const char* szNozeishaId,
+                                      const char* szKojinBango,
+                                      const char* szHojinBango,
+                                      const char* szNozeishaNm,
+                                      const char* szNozeishaAdr,
+                                      const char* szDaihyoNm,
+                                      const char* szDairiId,
+                                      const char* szDairiNm,
+                                      const char* szDairiAdr,
+                                      const char* szTetsuzuki);
+    /// Saves a text as a Shift_JIS file. \param szData  Taken as Shift_JIS bytes, not as UTF-8.
+    KZCConvertResultEka* CsvWrite(const char* szCsvPath, const char* szData);
+    /// The host's final call.
+    void Terminate();
+
+    static bool CreateResult();
+    static void ReleaseResult();
+    static bool WriteFileData(const char* szCsvPath, const char* szData);
+    static void OutputIF(const char* szValue, const char* szLabel);
+
+private:
+    static inline std::unique_ptr<KZCConvertResultEka> m_pResult;
+
+    XercesSession m_session;
+};

@@ -1,0 +1,227 @@
+#include "KZCEkaCsvFile.h"
+
+#include <algorithm>
+#include <string_view>
+#include <type_traits>
+
+#include "CText.h"
+#include "Fault.h"
+#include "KZCDebugDump.h"
+#include "KZCEkaCommon.h"
+#include "KZCEkaXDOM.h"
+#include "KZCMacOSNative.h"
+#include "KZCValidResult.h"
+
+namespace {
+
+constexpr unsigned short DEFINITION_INDEX_ID = 202;
+constexpr std::int64_t MAX_RECORDS = 5000;
+
+bool IsBlank(const KZCEkaCsvFile::Record& record)
+{
+    return record.empty() || record.front().empty();
+}
+
+/// Records an error of the file as a whole. \return STATUS_NG.
+template <class Value>
+int RejectFile(
+    KZCEkaMessage_t eMessage, long lColumn, const char* szFunction, const char* szLog, Value value)
+{
+    KZCValidResult::instance()->SetResult(eMessage, 0, lColumn, SINGLE_COLUMN);
+    KZCDebugDump::Log(szFunction, szLog);
+    if constexpr (std::is_integral_v<Value>)
+        KZCDebugDump::OutputValid(eMessage, 0, lColumn, static_cast<long>(value));
+    else
+        KZCDebugDump::OutputValid(eMessage, 0, lColumn, value, !KZCEkaCommon::GetCsvCheckFlag());
+    return STATUS_NG;
+}
+
+}  // namespace
+
+std::int64_t KZCEkaCsvFile::GetNonCRLFRecordCount() const
+{
+    return std::ranges::count_if(m_vecRecord,
+                                 [](const Record& record) { return !IsBlank(record); });
+}
+
+int KZCEkaCsvFile::ReadFile(const std::string& strPath)
+{
+    constexpr const char* FUNCTION = "KZCEkaCsvFile::ReadFile";
+    try {
+        Clear();
+        const std::string strText =
+            KZCMacOSNative::readSJISFile(strPath.c_str(), !KZCEkaCommon::GetCsvCheckFlag());
+        if (strText.empty())
+            RaiseFault(FUNCTION, "CSVファイルリードエラーが発生しました。");
+        if (Parse(strText.c_str(), false) != STATUS_OK || CheckRecordCount() != STATUS_OK)
+            return STATUS_NG;
+        if (m_strTypeId.empty())
+            return RejectFile(HE70024E, 0, FUNCTION,
+                              "CSVデータに有効なレコードが存在しません。（HE70024E）", "");
+        for (std::int64_t nRecord = 0; nRecord < GetRecordCount(); ++nRecord)
+            checkGeneration(nRecord);
+        return STATUS_OK;
+    } catch (...) {
+        RaiseFault(FUNCTION, UNEXPECTED_ERROR);
+    }
+}
+
+/// The one blank record that a closing line end leaves doesn't count against the limit.
+int KZCEkaCsvFile::CheckRecordCount() const
+{
+    const std::int64_t nCount = GetRecordCount();
+    const bool bOnlyClosingBlank = nCount == MAX_RECORDS + 1 && IsBlank(m_vecRecord.back());
+    if (nCount <= MAX_RECORDS || bOnlyClosingBlank)
+        return STATUS_OK;
+    return RejectFile(HE70020E, 0, "KZCEkaCsvFile::ReadFile",
+                      "CSVレコードの総件数エラーです。（HE70020E）", nCount);
+}
+
+bool KZCEkaCsvFile::IsValidRecord(long lRecord) const
+{
+    if (lRecord < 0 || lRecord >= GetRecordCount())
+        return false;
+    const Record& record = m_vecRecord[static_cast<std::size_t>(lRecord)];
+    return !IsBlank(record) && record.size() >= 2;
+}
+
+void KZCEkaCsvFile::DeleteEmptyRecord()
+{
+    std::vector<Record> vecKept;
+    std::map<std::int64_t, std::string> mapKept;
+    auto pGeneration = m_mapGeneration.begin();
+    for (Record& record : m_vecRecord) {
+        if (IsBlank(record))
+            continue;
+        // By position, not by the old number: wanted.
+        if (pGeneration != m_mapGeneration.end())
+            mapKept.emplace(static_cast<std::int64_t>(vecKept.size()), (pGeneration++)->second);
+        vecKept.push_back(std::move(record));
+    }
+    m_vecRecord = std::move(vecKept);
+    m_mapGeneration = std::move(mapKept);
+}
+
+void KZCEkaCsvFile::Clear()
+{
+    m_mapGeneration.clear();
+    m_strTypeId.clear();
+    m_nColumnNum = 0;
+    m_vecRecord.clear();
+}
+
+int KZCEkaCsvFile::ColumnTerm(std::string& strBuffer, Record& record, bool bEndOfRecord)
+{
+    record.push_back(KZCEkaCommon::StringTrim(strBuffer));
+    strBuffer.clear();
+    if (!bEndOfRecord)
+        return STATUS_OK;
+    if (!ValidateRecord(record))
+        return STATUS_NG;
+    const std::size_t nColumns = record.size();
+    m_vecRecord.push_back(std::move(record));
+    record.clear();
+    record.reserve(nColumns);
+    return STATUS_OK;
+}
+
+bool KZCEkaCsvFile::ValidateRecord(const Record& record)
+{
+    constexpr const char* FUNCTION = "KZCEkaCsvFile::ValidateRecord";
+    const std::string& strTypeId = record.front();
+    if (strTypeId.empty() && record.size() == 1)
+        return true;
+    if (m_strTypeId.empty()) {
+        if (!FindTypeId(strTypeId))
+            return RejectFile(HE70021E, 1, FUNCTION,
+                              "定義体から対応する申請番号種別が見つかりません（HE70021E）",
+                              strTypeId.c_str()) == STATUS_OK;
+    } else if (strTypeId != m_strTypeId) {
+        return RejectFile(HE70021E, 1, FUNCTION,
+                          "CSV内で申請番号が統一されていません。（HE70021E）",
+                          strTypeId.c_str()) == STATUS_OK;
+    }
+    if (static_cast<std::int64_t>(record.size()) == m_nColumnNum)
+        return true;
+    return RejectFile(HE70019E, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）",
+                      record.size()) == STATUS_OK;
+}
+
+/// Takes the type id and its column count from the definition index. False if it isn't there.
+bool KZCEkaCsvFile::FindTypeId(const std::string& strTypeId)
+{
+    const std::string strPath = KZCEkaCommon::LoadResoucePath(DEFINITION_INDEX_ID, "XML_DAT");
+    KZCEkaXDOM dom;
+    if (!dom.Initialize() || !dom.Parse(strPath.c_str()))
+        RaiseFault("KZCEkaCsvFile::ValidateRecord", "定義体の読み込みでエラーが発生しました。");
+    for (long lMove = dom.MoveFirstChild(); lMove == STATUS_OK; lMove = dom.MoveNextSibling()) {
+        if (dom.GetNodeName() != "report" || dom.GetAttribute("id") != strTypeId)
+            continue;
+        m_strTypeId = strTypeId;
+        m_nColumnNum = CText::ReadLong(dom.GetAttribute("columnNum").c_str());
+        return true;
+    }
+    return false;
+}
+
+int KZCEkaCsvFile::Parse(const char* szText, bool bQuote)
+{
+    if (szText == nullptr)
+        RaiseFault("KZCEkaCsvFile::Parse", "引数のポインタが不正です。");
+
+    const std::string_view strText = szText;
+    // The terminator counts as the text's last byte, as a line end does.
+    const auto byteAt = [strText](std::size_t nIndex) {
+        return nIndex < strText.size() ? strText[nIndex] : '\0';
+    };
+    std::string strBuffer;
+    Record record;
+    bool bInQuotes = false;
+    std::size_t nColumnStart = 0;
+    for (std::size_t nIndex = 0;; ++nIndex) {
+        const char cByte = byteAt(nIndex);
+        if (cByte == '\0')
+            return ColumnTerm(strBuffer, record, true);
+        if (bInQuotes) {
+            if (cByte != '"')
+                strBuffer += cByte;
+            else if (byteAt(nIndex + 1) == '"')
+                strBuffer += byteAt(++nIndex);
+            else
+                bInQuotes = false;
+        } else if (cByte == '"' && bQuote && nIndex == nColumnStart) {
+            bInQuotes = true;
+        } else if (cByte == ',') {
+            static_cast<void>(ColumnTerm(strBuffer, record, false));
+            nColumnStart = nIndex + 1;
+        } else if (cByte == '\n' || cByte == '\r') {
+            if (ColumnTerm(strBuffer, record, true) != STATUS_OK)
+                return STATUS_NG;
+            if (cByte == '\r' && byteAt(nIndex + 1) == '\n')
+                ++nIndex;
+            nColumnStart = nIndex + 1;
+        } else {
+            strBuffer += cByte;
+        }
+    }
+}
+
+const char* KZCEkaCsvFile::GetItem(long lRecord, long lColumn) const
+{
+    if (lRecord < 0 || lRecord >= GetRecordCount() || lColumn < 0)
+        return "";
+    const Record& record = m_vecRecord[static_cast<std::size_t>(lRecord)];
+    const auto nColumn = static_cast<std::size_t>(lColumn);
+    return nColumn < record.size() ? record[nColumn].c_str() : "";
+}
+
+std::string KZCEkaCsvFile::GetRecordGeneration(long lRecord) const
+{
+    const auto pGeneration = m_mapGeneration.find(lRecord);
+    return pGeneration != m_mapGeneration.end() ? pGeneration->second : std::string();
+}
+
+bool KZCEkaCsvFile::checkEmpty(long lRecord, long lColumn) const
+{
+    return *GetItem(lRecord, lColumn - 1) == '\0';
+}

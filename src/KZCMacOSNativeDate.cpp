@@ -1,0 +1,149 @@
+// Calendar services.
+#include <ctime>
+#include <optional>
+#include <string_view>
+
+#include "CText.h"
+#include "Clock.h"
+#include "DateReader.h"
+#include "KZCMacOSNative.h"
+
+namespace {
+
+constexpr int TM_BASE_YEAR = 1900;
+constexpr long LOWER_ABSENT = 15;
+constexpr long UPPER_ABSENT = 240;
+constexpr long UPPER_FACTOR = 16;
+
+long Field(char cLetter, const std::tm& time)
+{
+    switch (cLetter) {
+        case 'y':
+            return time.tm_year + TM_BASE_YEAR;
+        case 'M':
+            return time.tm_mon + 1;
+        case 'd':
+            return time.tm_mday;
+        case 'H':
+            return time.tm_hour;
+        case 'm':
+            return time.tm_min;
+        case 's':
+            return time.tm_sec;
+        default:
+            return 0;
+    }
+}
+
+/// Renders the fields y, M, d, H, m, s of the Unicode date pattern language, quoted parts and
+/// punctuation as they stand.
+std::string Render(std::string_view strPattern, const std::tm& time)
+{
+    constexpr std::string_view FIELDS = "yMdHms";
+    constexpr long CENTURY = 100;
+    std::string strOut;
+    bool bQuoted = false;
+    for (std::size_t nAt = 0; nAt < strPattern.size();) {
+        const char cLetter = strPattern[nAt];
+        std::size_t nCount = 1;
+        if (cLetter == '\'') {
+            // Two quotes in a row are a quote.
+            if (strPattern.substr(nAt).starts_with("''"))
+                strOut += strPattern[nAt++];
+            else
+                bQuoted = !bQuoted;
+        } else if (bQuoted || FIELDS.find(cLetter) == std::string_view::npos) {
+            strOut += cLetter;
+        } else {
+            while (nAt + nCount < strPattern.size() && strPattern[nAt + nCount] == cLetter)
+                ++nCount;
+            const long lField = Field(cLetter, time);
+            const bool bShortYear = cLetter == 'y' && nCount == 2;
+            CText::AppendNumber(strOut, bShortYear ? lField % CENTURY : lField,
+                                static_cast<int>(nCount));
+        }
+        nAt += nCount;
+    }
+    return strOut;
+}
+
+bool IsGiven(const char* szText)
+{
+    return szText != nullptr && *szText != '\0';
+}
+
+std::optional<DateTime> ReadDateOrNull(const char* szDate)
+{
+    return szDate != nullptr ? ReadDate(szDate) : std::nullopt;
+}
+
+/// 0 equal, 1 first is later, 2 first is earlier.
+long Compare(const DateTime& first, const DateTime& second)
+{
+    if (first == second)
+        return 0;
+    return first > second ? 1 : 2;
+}
+
+}  // namespace
+
+std::string KZCMacOSNative::dateTimeNow(const char* szDatePattern, const char* szTimePattern)
+{
+    std::string strPattern = CText::OrEmpty(szDatePattern);
+    if (!strPattern.empty() && IsGiven(szTimePattern))
+        strPattern += ' ';
+    strPattern += CText::OrEmpty(szTimePattern);
+    if (strPattern.empty())
+        return {};
+    const std::time_t now = Clock::Now();
+    std::tm time = {};
+    localtime_r(&now, &time);
+    return Render(strPattern, time);
+}
+
+bool KZCMacOSNative::dateTimeChange(const char* szDate)
+{
+    return ReadDateOrNull(szDate).has_value();
+}
+
+bool KZCMacOSNative::dateTimeChange(const char* szDate, long& lYear, long& lMonth, long& lDay)
+{
+    const auto date = ReadDateOrNull(szDate);
+    if (!date)
+        return false;
+    lYear = date->nYear;
+    lMonth = date->nMonth;
+    lDay = date->nDay;
+    return true;
+}
+
+long KZCMacOSNative::dateTimeComp(const char* szFirst, const char* szSecond)
+{
+    const auto first = ReadDateOrNull(szFirst);
+    if (!first)
+        return -1;
+    const auto second = ReadDateOrNull(szSecond);
+    if (!second)
+        return -2;
+    return Compare(*first, *second);
+}
+
+long KZCMacOSNative::rangeDate(const char* szDate,
+                               const char* szLower,
+                               const char* szUpper,
+                               bool bRequired)
+{
+    const auto date = ReadDateOrNull(szDate);
+    if (!date)
+        return -2;
+    const auto lower = ReadDateOrNull(szLower);
+    if (!lower && (bRequired || IsGiven(szLower)))
+        return -3;
+    const auto upper = ReadDateOrNull(szUpper);
+    if (!upper && (bRequired || IsGiven(szUpper)))
+        return -4;
+    if (!lower && !upper)
+        return -5;
+    return (lower ? Compare(*date, *lower) : LOWER_ABSENT) +
+           (upper ? Compare(*date, *upper) * UPPER_FACTOR : UPPER_ABSENT);
+}

@@ -1,0 +1,36 @@
+// Shift_JIS (code page 932) and UTF-8 against UTF-16, strict in both directions.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ShiftJis {
+
+/// The UTF-16 units of a Shift_JIS text, or nothing if one byte sequence is invalid.
+std::optional<std::u16string> Decode(std::string_view strText);
+
+/// The Shift_JIS text of UTF-16 units in its canonical form (duplicate codes of the code page come
+/// back as one of them), or nothing if a character has no place in Shift_JIS.
+std::optional<std::string> Encode(std::u16string_view strText);
+
+/// The Shift_JIS text in canonical form, or nothing if one byte sequence is invalid.
+std::optional<std::string> Canonical(std::string_view strText);
+
+/// The same text as UTF-8, or nothing if one byte sequence is invalid.
+std::optional<std::string> ToUtf8(std::string_view strText);
+
+}  // namespace ShiftJis
+
+namespace Utf8 {
+
+/// The UTF-16 units of a UTF-8 text, or nothing if it is not well-formed.
+std::optional<std::u16string> Decode(std::string_view strText);
+
+/// The UTF-8 text of UTF-16 units, or nothing if a surrogate stands alone.
+std::optional<std::string> Encode(std::u16string_view strText);
+
+/// Appends one character of the Basic Multilingual Plane that is no surrogate.
+void AppendUnit(std::string& strOut, char16_t cUnit);
+
+}  // namespace Utf8

@@ -1,0 +1,12 @@
+#include "KZCEkaMOKDefIdRef.h"
+
+#include "CText.h"
+#include "KZCValidResult.h"
+
+std::string KZCEkaMOKDefIdRef::WriteNode(const KZCEkaCsvFile* pCsv, long /*lRow*/)
+{
+    RequireCsv(pCsv, "KZCEkaMOKDefIdRef::WriteNode");
+    if (m_strValue.empty() || !KZCValidResult::instance()->ExistID(m_strValue))
+        return {};
+    return CText::CutToBuffer("<" + m_strName + " IDREF=\"" + m_strValue + "\"/>", TAG_BUFFER_SIZE);
+}

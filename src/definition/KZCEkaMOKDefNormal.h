@@ -1,0 +1,7 @@
+// A plain tag.
+#pragma once
+
+#include "KZCEkaMOKDefineNode.h"
+
+class KZCEkaMOKDefNormal : public KZCEkaMOKDefineNode
+{};

@@ -1,0 +1,334 @@
+#include "KZCEkaMOKDefineNode.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+#include <utility>
+
+#include "CText.h"
+#include "Fault.h"
+#include "KZCDebugDump.h"
+#include "KZCEkaCommon.h"
+#include "KZCEkaCsvFile.h"
+#include "KZCEkaXDOM.h"
+#include "definition/KZCEkaMOKDefBango.h"
+#include "definition/KZCEkaMOKDefDate.h"
+#include "definition/KZCEkaMOKDefIdRef.h"
+#include "definition/KZCEkaMOKDefKubun.h"
+#include "definition/KZCEkaMOKDefNormal.h"
+#include "definition/KZCEkaMOKDefTAG.h"
+#include "definition/KZCEkaMOKDefZeimusho.h"
+#include "definition/KZCEkaMOKDefZip.h"
+
+namespace {
+
+using NodePtr = std::unique_ptr<KZCEkaMOKDefineNode>;
+
+template <class Node>
+NodePtr Make()
+{
+    return std::make_unique<Node>();
+}
+
+struct NodeKind
+{
+    std::string_view strType;
+    NodePtr (*pMake)();
+};
+
+constexpr std::array<NodeKind, 8> NODE_KINDS = {{
+    {"Normal", Make<KZCEkaMOKDefNormal>},
+    {"TAG", Make<KZCEkaMOKDefTAG>},
+    {"Date", Make<KZCEkaMOKDefDate>},
+    {"Kubun", Make<KZCEkaMOKDefKubun>},
+    {"Zeimusho", Make<KZCEkaMOKDefZeimusho>},
+    {"Zip", Make<KZCEkaMOKDefZip>},
+    {"Bango", Make<KZCEkaMOKDefBango>},
+    {"IdRef", Make<KZCEkaMOKDefIdRef>},
+}};
+
+std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
+{
+    return CText::ReadLong(dom.GetAttribute(szAttribute).c_str());
+}
+
+}  // namespace
+
+/// Bounds of one search for a parent. Parents that stand once per generation double the ways
+/// through the tree at each level, so a hostile file could make the search endless, or too deep to
+/// return.
+struct KZCEkaMOKDefineNode::Search
+{
+    static constexpr long MAX_STEPS = 1000000;
+    static constexpr int MAX_DEPTH = 500;
+
+    long lSteps = 0;
+    int nDepth = 0;
+
+    void Enter()
+    {
+        if (++lSteps > MAX_STEPS || ++nDepth > MAX_DEPTH)
+            RaiseFault("KZCEkaMOKDefineNode::LocateNode", nullptr);
+    }
+    void Leave() { --nDepth; }
+};
+
+KZCEkaMOKDefineNode::Share::Share(KZCEkaMOKDefineNode* pNode) : m_pNode(pNode)
+{
+    m_pNode->GenerationAddref();
+}
+
+KZCEkaMOKDefineNode::Share::Share(Share&& other) noexcept
+    : m_pNode(std::exchange(other.m_pNode, nullptr))
+{
+}
+
+KZCEkaMOKDefineNode::Share& KZCEkaMOKDefineNode::Share::operator=(Share&& other) noexcept
+{
+    std::swap(m_pNode, other.m_pNode);
+    return *this;
+}
+
+KZCEkaMOKDefineNode::Share::~Share()
+{
+    if (m_pNode != nullptr && m_pNode->GenerationRelease() == 0)
+        delete m_pNode;
+}
+
+KZCEkaMOKDefineNode::KZCEkaMOKDefineNode()
+{
+    clearCloseTags();
+}
+
+KZCEkaMOKDefineNode::~KZCEkaMOKDefineNode() = default;
+
+std::unique_ptr<KZCEkaMOKDefineNode> KZCEkaMOKDefineNode::CreateNode(KZCEkaXDOM* pDom,
+                                                                     bool bValidate)
+{
+    constexpr const char* FUNCTION = "KZCEkaMOKDefineNode::CreateNode";
+    if (pDom == nullptr) {
+        KZCDebugDump::Log(FUNCTION);
+        return nullptr;
+    }
+    try {
+        const auto* pKind =
+            std::ranges::find(NODE_KINDS, pDom->GetAttribute("type"), &NodeKind::strType);
+        if (pKind == NODE_KINDS.end()) {
+            KZCDebugDump::Log(FUNCTION, "EKA定義ファイルエラー");
+            return nullptr;
+        }
+        NodePtr pNode = pKind->pMake();
+        if (pNode->Initialize(pDom, bValidate) != STATUS_OK)
+            RaiseFault(FUNCTION, nullptr);
+        return pNode;
+    } catch (...) {
+        KZCDebugDump::Log(FUNCTION, UNEXPECTED_ERROR);
+        return nullptr;
+    }
+}
+
+int KZCEkaMOKDefineNode::Initialize(KZCEkaXDOM* pDom, bool bValidate)
+{
+    constexpr const char* FUNCTION = "KZCEkaMOKDefineNode::Initialize";
+    if (pDom == nullptr) {
+        KZCDebugDump::Log(FUNCTION);
+        return STATUS_NG;
+    }
+    try {
+        m_strName = pDom->GetAttribute("id");
+        m_strParent = pDom->GetAttribute("parent");
+        const std::int64_t nColumn = ReadNumber(*pDom, "column");
+        m_nColumn = nColumn > 0 ? nColumn - 1 : -1;
+        m_bZeroSuppress = pDom->GetAttribute("zeroSuppress") == "true";
+        m_strGeneration = pDom->GetAttribute("generation");
+        m_nStartRow = ReadNumber(*pDom, "startRow");
+        m_nEndRow = ReadNumber(*pDom, "endRow");
+        m_nStepRow = ReadNumber(*pDom, "stepRow");
+        m_strValue = pDom->GetAttribute("value");
+        m_nLastRecord = ReadNumber(*pDom, "lastRecord");
+        m_strRepeatTopTag = pDom->GetAttribute("repeatTopTag");
+        if (!bValidate || !pDom->HasChild())
+            return STATUS_OK;
+        m_pValidator = std::make_unique<KZCEkaValidator>();
+        return m_pValidator->Initialize(m_nColumn, pDom);
+    } catch (...) {
+        KZCDebugDump::Log(FUNCTION, UNEXPECTED_ERROR);
+        return STATUS_NG;
+    }
+}
+
+int KZCEkaMOKDefineNode::LocateNode(KZCEkaMOKDefineNode* pChild, int nDefault)
+{
+    if (pChild == nullptr) {
+        KZCDebugDump::Log("KZCEkaMOKDefineNode::LocateNode");
+        return nDefault;
+    }
+    Search search;
+    return Locate(pChild, nDefault, search);
+}
+
+int KZCEkaMOKDefineNode::Locate(KZCEkaMOKDefineNode* pChild, int nDefault, Search& search)
+{
+    search.Enter();
+    int nResult = nDefault;
+    if (pChild->m_strParent == m_strName) {
+        const bool bSame = m_strGeneration == pChild->m_strGeneration;
+        if (bSame || m_strGeneration.empty() || pChild->m_strGeneration.empty()) {
+            Attach(pChild);
+            if (bSame || m_strGeneration.empty()) {
+                search.Leave();
+                return 0;
+            }
+            // A child for both generations under a parent of one: the other parent wants it too.
+            nResult = 1;
+        }
+    }
+    // Among parents of equal name the one defined last is found first. The child may just have
+    // become one of them; it is no parent of itself, whatever its name.
+    for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild)
+        if (KZCEkaMOKDefineNode& node = *m_vecChild[nChild - 1]; &node != pChild)
+            nResult = node.Locate(pChild, nResult, search);
+    search.Leave();
+    return nResult;
+}
+
+int KZCEkaMOKDefineNode::LocateNodeFinance(KZCEkaMOKDefineNode* pChild,
+                                           bool bValidate,
+                                           int nDefault)
+{
+    if (pChild == nullptr) {
+        KZCDebugDump::Log("KZCEkaMOKDefineNode::LocateNodeFinance");
+        return nDefault;
+    }
+    Search search;
+    return LocateFinance(pChild, bValidate, nDefault, search);
+}
+
+int KZCEkaMOKDefineNode::LocateFinance(KZCEkaMOKDefineNode* pChild,
+                                       bool bValidate,
+                                       int nDefault,
+                                       Search& search)
+{
+    if ((bValidate && pChild->m_strParent.empty()) || pChild->m_strParent == m_strName) {
+        Attach(pChild);
+        return 0;
+    }
+    search.Enter();
+    int nResult = nDefault;
+    for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild)
+        nResult = m_vecChild[nChild - 1]->LocateFinance(pChild, bValidate, nResult, search);
+    search.Leave();
+    return nResult;
+}
+
+void KZCEkaMOKDefineNode::Attach(KZCEkaMOKDefineNode* pChild)
+{
+    m_vecChild.emplace_back(pChild);
+}
+
+int KZCEkaMOKDefineNode::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow)
+{
+    constexpr const char* FUNCTION = "KZCEkaMOKDefineNode::ValidateCsv";
+    RequireCsv(pCsv, FUNCTION);
+    int nStatus = STATUS_OK;
+    if (m_pValidator && m_pValidator->ValidateCsv(pCsv, lRow, -1) != STATUS_OK) {
+        KZCDebugDump::Log(FUNCTION);
+        nStatus = STATUS_NG;
+    }
+    for (const Share& pChild : m_vecChild) {
+        if (!FitsGeneration(*pChild, *pCsv, lRow) || pChild->ValidateCsv(pCsv, lRow) == STATUS_OK)
+            continue;
+        KZCDebugDump::Log(FUNCTION);
+        nStatus = STATUS_NG;
+    }
+    return nStatus;
+}
+
+int KZCEkaMOKDefineNode::ValidateGroup(const KZCEkaCsvFile* pCsv, long lRow)
+{
+    if (!m_pValidator || m_vecChild.empty())
+        return STATUS_OK;
+    const std::int64_t nColumn = m_vecChild.front()->GetColumn();
+    return nColumn == -1 ? STATUS_OK : m_pValidator->ValidateCsv(pCsv, lRow, nColumn);
+}
+
+std::string KZCEkaMOKDefineNode::WriteNode(const KZCEkaCsvFile* pCsv, long lRow)
+{
+    RequireCsv(pCsv, "KZCEkaMOKDefineNode::WriteNode");
+    // The raw numbers, negative ones included: such a node writes nothing. Wanted.
+    if (isSettingRecordRange() && (m_nStartRow > lRow + 1 || m_nEndRow <= lRow))
+        return {};
+    std::string strBody;
+    for (const Share& pChild : m_vecChild)
+        if (FitsGeneration(*pChild, *pCsv, lRow))
+            strBody += pChild->WriteNode(pCsv, lRow);
+    const std::string strValue = MakeNodeValue(pCsv, lRow);
+    if (strValue.empty() && strBody.empty())
+        return {};
+    return OpenTag(m_strName) + strValue + strBody + CloseTag(m_strName);
+}
+
+std::string KZCEkaMOKDefineNode::WriteNodeTag(const KZCEkaCsvFile* pCsv,
+                                              long lRow,
+                                              eWriteMode eMode)
+{
+    return eMode == WRITE_NORMAL ? WriteNode(pCsv, lRow) : std::string();
+}
+
+std::string KZCEkaMOKDefineNode::MakeNodeValue(const KZCEkaCsvFile* pCsv, long lRow)
+{
+    RequireCsv(pCsv, "KZCEkaMOKDefineNode::MakeNodeValue");
+    if (m_nColumn < 0)
+        return {};
+    std::string strValue = KZCEkaCommon::SpecialEncoding(pCsv->GetItem(lRow, m_nColumn));
+    if (m_bZeroSuppress)
+        strValue.erase(0, std::min(strValue.find_first_not_of('0'), strValue.size()));
+    return strValue;
+}
+
+bool KZCEkaMOKDefineNode::isWithInRecordRange(const KZCEkaCsvFile* pCsv, long lRow) const
+{
+    return !isSettingRecordRange() ||
+           (convRecordRow(pCsv, m_nStartRow) <= lRow + 1 && lRow < convRecordRow(pCsv, m_nEndRow));
+}
+
+std::int64_t KZCEkaMOKDefineNode::convRecordRow(const KZCEkaCsvFile* pCsv, std::int64_t nRow)
+{
+    return nRow < 0 ? nRow + pCsv->GetRecordCount() + 1 : nRow;
+}
+
+std::string KZCEkaMOKDefineNode::getCloseTags()
+{
+    std::string strTags;
+    for (auto pName = m_listCloseTag.rbegin(); pName != m_listCloseTag.rend(); ++pName)
+        strTags += CloseTag(*pName);
+    return strTags;
+}
+
+void KZCEkaMOKDefineNode::clearCloseTags()
+{
+    m_listCloseTag.clear();
+}
+
+bool KZCEkaMOKDefineNode::FitsGeneration(const KZCEkaMOKDefineNode& child,
+                                         const KZCEkaCsvFile& csv,
+                                         long lRow)
+{
+    return child.m_strGeneration.empty() || child.m_strGeneration == csv.GetRecordGeneration(lRow);
+}
+
+void KZCEkaMOKDefineNode::RequireCsv(const KZCEkaCsvFile* pCsv, const char* szFunction)
+{
+    if (pCsv == nullptr)
+        RaiseFault(szFunction, nullptr);
+}
+
+std::string KZCEkaMOKDefineNode::OpenTag(const std::string& strName)
+{
+    return CText::CutToBuffer("<" + strName + ">", TAG_BUFFER_SIZE);
+}
+
+std::string KZCEkaMOKDefineNode::CloseTag(const std::string& strName)
+{
+    return CText::CutToBuffer("</" + strName + ">", TAG_BUFFER_SIZE);
+}

@@ -1,0 +1,10 @@
+#include "KZCEkaValidAlphabet.h"
+
+#include "ByteClass.h"
+
+KZCEkaMessage_t KZCEkaValidAlphabet::_validate(const char* szValue)
+{
+    if (ByteClass::AllOf(szValue, ByteClass::IsLetter))
+        return MSG_NONE;
+    return Refuse(HE70006E, "KZCEkaValidAlphabet::_validate");
+}

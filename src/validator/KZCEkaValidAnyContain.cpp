@@ -1,0 +1,34 @@
+#include "KZCEkaValidAnyContain.h"
+
+#include "CText.h"
+#include "Fault.h"
+#include "KZCEkaCsvFile.h"
+
+void KZCEkaValidAnyContain::SetParam(const char* szValue, const char* szMin, const char* szMax)
+{
+    m_bGiven = *CText::OrEmpty(szValue) != '\0';
+    m_vecColumn = CText::SplitNumbers(CText::OrEmpty(szValue));
+    m_range.Set(szMin, szMax);
+}
+
+KZCEkaMessage_t KZCEkaValidAnyContain::_validate(const char* /*szValue*/)
+{
+    constexpr const char* FUNCTION = "KZCEkaValidAnyContain::_validate";
+    if (!m_bGiven)
+        RaiseParameterFault(FUNCTION);
+    if (m_pCsv == nullptr || !m_range.HasNumbers())
+        RaiseFault(FUNCTION, nullptr);
+    for (const long lColumn : m_vecColumn) {
+        const char* szCell = m_pCsv->GetItem(m_lRow, lColumn - 1);
+        if (*szCell == '\0')
+            continue;
+        if (!NumberRange::IsNumber(szCell))
+            return Refuse(HE70009E, FUNCTION);
+        // Only a filled cell brings a range in the wrong order to light.
+        if (!m_range.IsOrdered())
+            RaiseFault(FUNCTION, nullptr);
+        if (m_range.Contains(CText::ReadLong(szCell)))
+            return MSG_NONE;
+    }
+    return Refuse(HE70009E, FUNCTION);
+}

@@ -1,0 +1,15 @@
+#include "KZCEkaValidExcept.h"
+
+void KZCEkaValidExcept::SetParam(const char* szValue)
+{
+    m_list.Set(szValue);
+}
+
+KZCEkaMessage_t KZCEkaValidExcept::_validate(const char* szValue)
+{
+    constexpr const char* FUNCTION = "KZCEkaValidExcept::_validate";
+    if (!m_list.IsGiven())
+        RaiseParameterFault(FUNCTION);
+    return szValue != nullptr && m_list.ContainsCell(szValue) ? Refuse(HE99999E, FUNCTION)
+                                                              : MSG_NONE;
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "KZCEkaValidColumnPair.h"
+
+/// Passes if the two cells differ.
+class KZCEkaValidExceptColumn final : public KZCEkaValidColumnPair
+{
+public:
+    using KZCEkaValidColumnPair::KZCEkaValidColumnPair;
+
+private:
+    KZCEkaMessage_t Verdict(bool bAgree) const override;
+};

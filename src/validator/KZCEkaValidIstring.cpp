@@ -1,0 +1,47 @@
+#include "KZCEkaValidIstring.h"
+
+#include <string_view>
+
+#include "CText.h"
+#include "IstringTable.h"
+#include "KZCEkaCommon.h"
+#include "KZCMacOSNative.h"
+
+namespace {
+
+constexpr const char* FUNCTION = "KZCEkaValidIstring::_validate";
+
+/// The character's first two bytes as one code, or its one byte.
+unsigned LeadCode(std::string_view strCharacter)
+{
+    unsigned nCode = 0;
+    for (const char cByte : strCharacter.substr(0, 2))
+        nCode = nCode << 8U | static_cast<unsigned char>(cByte);
+    return nCode;
+}
+
+}  // namespace
+
+KZCEkaMessage_t KZCEkaValidIstring::_validate(const char* szValue)
+{
+    const std::string_view strValue = CText::OrEmpty(szValue);
+    const auto refuse = [](unsigned nCode) {
+        return Refuse(HE70006E, FUNCTION, std::to_string(nCode).c_str());
+    };
+
+    std::size_t nByte = 0;
+    for (const unsigned char nLength :
+         KZCMacOSNative::getStringLengths(szValue, !KZCEkaCommon::GetCsvCheckFlag())) {
+        const unsigned nCode = LeadCode(strValue.substr(nByte, nLength));
+        if (!IstringTable::ContainsCode(nCode))
+            return refuse(nCode);
+        nByte += nLength;
+    }
+    if (nByte < strValue.size())  // it can't be decoded
+        return refuse(LeadCode(strValue));
+
+    for (const char16_t cUnit : KZCEkaCommon::ConvertSPChar(szValue))
+        if (!IstringTable::ContainsUnit(cUnit))
+            return refuse(cUnit);
+    return MSG_NONE;
+}

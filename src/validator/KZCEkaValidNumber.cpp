@@ -1,0 +1,10 @@
+#include "KZCEkaValidNumber.h"
+
+#include "ByteClass.h"
+
+KZCEkaMessage_t KZCEkaValidNumber::_validate(const char* szValue)
+{
+    if (ByteClass::AllOf(szValue, ByteClass::IsDigit))
+        return MSG_NONE;
+    return Refuse(HE70004E, "KZCEkaValidNumber::_validate");
+}
