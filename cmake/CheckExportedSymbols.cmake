@@ -4,6 +4,8 @@ cmake_minimum_required(VERSION 3.25)
 
 execute_process(COMMAND "${NM}" --dynamic --defined-only --demangle --portability "${LIBRARY}"
     OUTPUT_VARIABLE strOutput COMMAND_ERROR_IS_FATAL ANY)
+# The list has plain names.
+string(REPLACE "[abi:cxx11]" "" strOutput "${strOutput}")
 string(REPLACE ";" "," strOutput "${strOutput}")
 string(REPLACE "\n" ";" listLines "${strOutput}")
 

@@ -9,8 +9,10 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <filesystem>
 #include <memory>
 #include <optional>
+#include <system_error>
 
 #include "CText.h"
 #include "KZCLoadResource.h"
@@ -122,6 +124,15 @@ std::string_view FolderOf(std::string_view strPath)
     return WithoutTrailingSlash(strPath.substr(0, std::max<std::size_t>(nSlash, 1)));
 }
 
+/// Removes the file that a link leads to.
+void RemoveLinkTarget(const char* szLink)
+{
+    std::error_code error;
+    const auto target = std::filesystem::canonical(szLink, error);
+    if (!error)
+        unlink(target.c_str());
+}
+
 struct FolderClose
 {
     void operator()(DIR* pFolder) const { closedir(pFolder); }
@@ -156,6 +167,7 @@ bool KZCMacOSNative::writeFile(const char* szPath, std::string_view strBytes, Wr
     }
     // O_CREAT once more: a link to a file that isn't there yet gets here too. A pipe that nobody
     // reads is refused instead of waited for.
+    const bool bThrough = !GetInfo(szFile);
     FileHandle file(szFile, O_WRONLY | O_CREAT | O_NONBLOCK, EVERYONE);
     if (!file.IsOpen() || !file.WaitOnWrite() || !file.Truncate())
         return false;
@@ -163,6 +175,8 @@ bool KZCMacOSNative::writeFile(const char* szPath, std::string_view strBytes, Wr
         return file.Close();
     // The old content is gone; half of the new one must not pass for the whole.
     static_cast<void>(file.Truncate());
+    if (bThrough)
+        RemoveLinkTarget(szFile);
     return false;
 }
 

@@ -29,10 +29,8 @@ constexpr const char* SAVE_FUNCTION = "KZCXDOM::Save";
 constexpr std::size_t POSITION_BUFFER_SIZE = 1024;
 /// More entity references in one document are an attack.
 constexpr XMLSize_t MAX_ENTITY_EXPANSIONS = 100;
-/// Elements within elements. No definition gets near, and the parser's time grows with the square.
-constexpr std::size_t MAX_DEPTH = 1000;
-/// Deeper elements are an attack: the library looks names up from the innermost element outwards, so
-/// that its time grows with the square of the depth.
+/// Deeper elements are an attack: the library looks names up from the innermost element outwards,
+/// so that its time grows with the square of the depth.
 constexpr int MAX_ELEMENT_DEPTH = 1000;
 /// Bytes that the text of one serialised document is expected to take at least.
 constexpr std::size_t EXPECTED_SIZE = 1023;
@@ -55,44 +53,6 @@ public:
     }
 };
 
-/// Gives up on a document that is nested deeper than any sane one.
-class BoundedDomParser final : public xercesc::XercesDOMParser
-{
-public:
-    void startDocument() override
-    {
-        m_nDepth = 0;
-        XercesDOMParser::startDocument();
-    }
-
-    void startElement(const xercesc::XMLElementDecl& declaration,
-                      const unsigned int nUri,
-                      const XMLCh* const szPrefix,
-                      const xercesc::RefVectorOf<xercesc::XMLAttr>& attributes,
-                      const XMLSize_t nAttributes,
-                      const bool bEmpty,
-                      const bool bRoot) override
-    {
-        if (++m_nDepth > MAX_DEPTH)
-            throw FAULT;
-        XercesDOMParser::startElement(declaration, nUri, szPrefix, attributes, nAttributes, bEmpty,
-                                      bRoot);
-    }
-
-    /// Also for an empty element: the base calls it from its startElement.
-    void endElement(const xercesc::XMLElementDecl& declaration,
-                    const unsigned int nUri,
-                    const bool bRoot,
-                    const XMLCh* const szPrefix) override
-    {
-        --m_nDepth;
-        XercesDOMParser::endElement(declaration, nUri, bRoot, szPrefix);
-    }
-
-private:
-    std::size_t m_nDepth = 0;
-};
-
 /// A parser that gives up on a document nested too deep.
 class BoundedParser final : public xercesc::XercesDOMParser
 {
@@ -113,8 +73,8 @@ public:
     {
         if (++m_nDepth > MAX_ELEMENT_DEPTH)
             throw FAULT;
-        XercesDOMParser::startElement(
-            elemDecl, uriId, prefixName, attrList, attrCount, isEmpty, isRoot);
+        XercesDOMParser::startElement(elemDecl, uriId, prefixName, attrList, attrCount, isEmpty,
+                                      isRoot);
     }
 
     /// Called for empty elements too.
@@ -187,7 +147,7 @@ struct KZCXDom::Parser
     NothingExternal entityResolver;
     xercesc::SecurityManager securityManager;
     xercesc::HandlerBase errorHandler;  // ignores all but fatal errors, which it throws
-    BoundedDomParser domParser;
+    BoundedParser domParser;
 
     Parser()
     {

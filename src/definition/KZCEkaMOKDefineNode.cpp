@@ -65,9 +65,15 @@ struct KZCEkaMOKDefineNode::Search
     long lSteps = 0;
     int nDepth = 0;
 
+    void Step()
+    {
+        if (++lSteps > MAX_STEPS)
+            RaiseFault("KZCEkaMOKDefineNode::LocateNode", nullptr);
+    }
     void Enter()
     {
-        if (++lSteps > MAX_STEPS || ++nDepth > MAX_DEPTH)
+        Step();
+        if (++nDepth > MAX_DEPTH)
             RaiseFault("KZCEkaMOKDefineNode::LocateNode", nullptr);
     }
     void Leave() { --nDepth; }
@@ -186,8 +192,11 @@ int KZCEkaMOKDefineNode::Locate(KZCEkaMOKDefineNode* pChild, int nDefault, Searc
     // Among parents of equal name the one defined last is found first. The child may just have
     // become one of them; it is no parent of itself, whatever its name.
     for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild)
+    {
+        search.Step();  // a child that hangs here many times is passed over as often
         if (KZCEkaMOKDefineNode& node = *m_vecChild[nChild - 1]; &node != pChild)
             nResult = node.Locate(pChild, nResult, search);
+    }
     search.Leave();
     return nResult;
 }
