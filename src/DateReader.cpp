@@ -5,36 +5,11 @@
 #include <string>
 #include <utility>
 
+#include "EraTable.h"
+
 namespace {
 
 constexpr std::string_view WESTERN_CHARACTERS = "1234567890/:.- ";
-
-/// An era with its first and last day; the last era is open.
-struct Era
-{
-    std::string_view strName;
-    int nBase;  ///< Western year = year in the era + base
-    DateTime first;
-    DateTime last;
-};
-
-constexpr DateTime StartOf(int nYear, int nMonth, int nDay)
-{
-    return {nYear, nMonth, nDay, 0, 0, 0};
-}
-
-constexpr DateTime EndOf(int nYear, int nMonth, int nDay)
-{
-    return {nYear, nMonth, nDay, 23, 59, 59};
-}
-
-constexpr std::array<Era, 5> ERAS = {{
-    {"明治", 1867, StartOf(1890, 1, 1), EndOf(1912, 7, 29)},
-    {"大正", 1911, StartOf(1912, 7, 30), EndOf(1926, 12, 24)},
-    {"昭和", 1925, StartOf(1926, 12, 25), EndOf(1989, 1, 7)},
-    {"平成", 1988, StartOf(1989, 1, 8), EndOf(2019, 4, 30)},
-    {"新号", 2018, StartOf(2019, 5, 1), EndOf(9999, 12, 31)},
-}};
 
 /// Takes a text apart from the front. Once something is missing it stays failed.
 class Scanner
@@ -67,16 +42,19 @@ public:
         m_strRest.remove_prefix(std::min(m_strRest.find_first_not_of(' '), m_strRest.size()));
     }
 
-    const Era* EraName()
+    /// The name of an era, or the empty text.
+    std::string_view EraName()
     {
         SkipBlanks();
-        const auto pEra = std::ranges::find_if(
-            ERAS, [this](const Era& era) { return m_strRest.starts_with(era.strName); });
-        m_bFailed = m_bFailed || pEra == ERAS.end();
+        const auto spans = EraTable::RealSpans();
+        const auto pEra = std::ranges::find_if(spans, [this](const EraTable::Span& span) {
+            return m_strRest.starts_with(span.strName);
+        });
+        m_bFailed = m_bFailed || pEra == spans.end();
         if (m_bFailed)
-            return nullptr;
+            return {};
         m_strRest.remove_prefix(pEra->strName.size());
-        return &*pEra;
+        return pEra->strName;
     }
 
     /// Everything was there, and nothing but blanks is left.
@@ -140,6 +118,16 @@ std::optional<DateTime> ReadWestern(std::string strText, bool bHasTime)
     return scanner.IsAtEnd() && IsReal(date) ? std::optional(date) : std::nullopt;
 }
 
+/// The day lies between the first and the last one of its era.
+bool LiesInEra(DateTime date, std::string_view strEra)
+{
+    date.nHour = date.nMinute = date.nSecond = 0;
+    const auto spans = EraTable::RealSpans();
+    const auto pSpan = std::ranges::find(spans, strEra, &EraTable::Span::strName);
+    const auto last = ReadWestern(pSpan->szLast, false);
+    return date >= ReadWestern(pSpan->szFirst, false) && (!last || date <= *last);
+}
+
 std::optional<DateTime> ReadJapanese(std::string strText, bool bHasTime)
 {
     constexpr std::array<std::pair<std::string_view, std::string_view>, 4> REPLACEMENTS = {
@@ -148,16 +136,14 @@ std::optional<DateTime> ReadJapanese(std::string strText, bool bHasTime)
         ReplaceAll(strText, strFrom, strTo);
 
     Scanner scanner(strText);
-    const Era* pEra = scanner.EraName();
+    const std::string_view strEra = scanner.EraName();
     DateTime date = {};
     const int nYearInEra = scanner.Number(1, 2);
     ReadRest(scanner, date, bHasTime);
-    if (pEra == nullptr || nYearInEra < 1 || !scanner.IsAtEnd())
+    if (nYearInEra < 1 || !scanner.IsAtEnd())
         return std::nullopt;
-    date.nYear = nYearInEra + pEra->nBase;
-    if (!IsReal(date) || date < pEra->first || date > pEra->last)
-        return std::nullopt;
-    return date;
+    date.nYear = nYearInEra + EraTable::Base(strEra);
+    return IsReal(date) && LiesInEra(date, strEra) ? std::optional(date) : std::nullopt;
 }
 
 }  // namespace

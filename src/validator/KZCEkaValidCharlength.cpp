@@ -1,28 +1,20 @@
 #include "KZCEkaValidCharlength.h"
 
+#include <algorithm>
+
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
-
-namespace {
-
-/// Characters of a value. Half of a surrogate pair has no length and ends the count.
-long CountCharacters(const char* szValue)
-{
-    long lCount = 0;
-    for (const unsigned char nLength :
-         KZCMacOSNative::getStringLengths(szValue, !KZCEkaCommon::GetCsvCheckFlag())) {
-        if (nLength == 0)
-            break;
-        ++lCount;
-    }
-    return lCount;
-}
-
-}  // namespace
 
 void KZCEkaValidCharlength::SetParam(const char* szValue, const char* szMax)
 {
     m_limit.Set(szValue, szMax);
+}
+
+long KZCEkaValidCharlength::CountCharacters(const char* szValue)
+{
+    const std::vector<unsigned char> vecLength =
+        KZCMacOSNative::getStringLengths(szValue, !KZCEkaCommon::GetCsvCheckFlag());
+    return std::ranges::find(vecLength, 0) - vecLength.begin();
 }
 
 KZCEkaMessage_t KZCEkaValidCharlength::_validate(const char* szValue)

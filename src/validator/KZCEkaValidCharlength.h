@@ -12,6 +12,10 @@ public:
     /// empty.
     void SetParam(const char* szValue, const char* szMax);
 
+    /// Characters of a value in the encoding of the check flag; 0 if it can't be decoded. Half of a
+    /// surrogate pair has no length and ends the count.
+    static long CountCharacters(const char* szValue);
+
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 

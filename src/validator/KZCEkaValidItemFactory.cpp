@@ -5,6 +5,7 @@
 
 #include "CText.h"
 #include "KZCDebugDump.h"
+#include "validator/KZCEkaValidAge.h"
 #include "validator/KZCEkaValidAlnum.h"
 #include "validator/KZCEkaValidAlnumsbl.h"
 #include "validator/KZCEkaValidAlphabet.h"
@@ -12,14 +13,20 @@
 #include "validator/KZCEkaValidAnyExist.h"
 #include "validator/KZCEkaValidCharlength.h"
 #include "validator/KZCEkaValidCheckDigit.h"
+#include "validator/KZCEkaValidCompDate.h"
 #include "validator/KZCEkaValidContain.h"
 #include "validator/KZCEkaValidContainColumn.h"
+#include "validator/KZCEkaValidContainYear.h"
 #include "validator/KZCEkaValidDigitEquality.h"
 #include "validator/KZCEkaValidEmpty.h"
+#include "validator/KZCEkaValidEqualyear.h"
 #include "validator/KZCEkaValidExcept.h"
 #include "validator/KZCEkaValidExceptColumn.h"
 #include "validator/KZCEkaValidExist.h"
+#include "validator/KZCEkaValidExistDateYYYYMMDD.h"
 #include "validator/KZCEkaValidExist_2.h"
+#include "validator/KZCEkaValidExistdate.h"
+#include "validator/KZCEkaValidExistdate_2.h"
 #include "validator/KZCEkaValidExistpath.h"
 #include "validator/KZCEkaValidExtension.h"
 #include "validator/KZCEkaValidIstring.h"
@@ -31,7 +38,14 @@
 #include "validator/KZCEkaValidMultikana_2.h"
 #include "validator/KZCEkaValidNonerr.h"
 #include "validator/KZCEkaValidNumber.h"
+#include "validator/KZCEkaValidOnward.h"
 #include "validator/KZCEkaValidRange.h"
+#include "validator/KZCEkaValidRangebasedate.h"
+#include "validator/KZCEkaValidRangebasedate_2.h"
+#include "validator/KZCEkaValidRangedate.h"
+#include "validator/KZCEkaValidRangedate_2.h"
+#include "validator/KZCEkaValidRangedate_3.h"
+#include "validator/KZCEkaValidRangedate_4.h"
 #include "validator/KZCEkaValidTaxoffice.h"
 #include "validator/KZCEkaValidTaxofficenm.h"
 
@@ -73,10 +87,14 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {"charlength", Make<KZCEkaValidCharlength, VALUE, MAX>},
     {"contain", Make<KZCEkaValidContain, VALUE>},
     {"containcolumn", Make<KZCEkaValidContainColumn, VALUE, MIN, MAX>},
+    {"containyear", Make<KZCEkaValidContainYear, VALUE>},
     {"empty", Make<KZCEkaValidEmpty>},
+    {"equalyear", Make<KZCEkaValidEqualyear, VALUE, MIN, MAX>},
     {"lvystring", Make<KZCEkaValidLvystring, VALUE>},
     {"except", Make<KZCEkaValidExcept, VALUE>},
     {"exist", Make<KZCEkaValidExist>},
+    {"existdate", Make<KZCEkaValidExistdate>},
+    {"existdate_2", Make<KZCEkaValidExistdate_2>},
     {"existpath", Make<KZCEkaValidExistpath, VALUE>},
     {"extension", Make<KZCEkaValidExtension, VALUE>},
     {"istring", Make<KZCEkaValidIstring>},
@@ -86,17 +104,27 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {"multikana_2", Make<KZCEkaValidMultikana_2>},
     {"nonerr", Make<KZCEkaValidNonerr, VALUE, MIN>},
     {"number", Make<KZCEkaValidNumber>},
+    {"onward", Make<KZCEkaValidOnward, VALUE>},
     {"range", Make<KZCEkaValidRange, MIN, MAX>},
+    {"rangebasedate", Make<KZCEkaValidRangebasedate, VALUE, MIN, MAX>},
+    {"rangebasedate_2", Make<KZCEkaValidRangebasedate_2, VALUE, MIN, MAX>},
+    {"rangedate", Make<KZCEkaValidRangedate, MIN, MAX>},
+    {"rangedate_2", Make<KZCEkaValidRangedate_2, MIN, MAX>},
+    {"rangedate_3", Make<KZCEkaValidRangedate_3, VALUE>},
     {"taxoffice", Make<KZCEkaValidTaxoffice>},
     {"taxofficenm", Make<KZCEkaValidTaxofficenm>},
+    {"age", Make<KZCEkaValidAge, VALUE, MIN, MAX>},
     {"checkdigit", Make<KZCEkaValidCheckDigit, VALUE>},
     {"digitequality", Make<KZCEkaValidDigitEquality, VALUE, MIN, MAX>},
     {"exceptcolumn", Make<KZCEkaValidExceptColumn, VALUE, MIN, MAX>},
+    {"compdate", Make<KZCEkaValidCompDate, VALUE, MIN, MAX>},
     {"exist_2", Make<KZCEkaValidExist_2>},
+    {"rangedate_4", Make<KZCEkaValidRangedate_4, MIN, MAX>},
     {"alphabet", Make<KZCEkaValidAlphabet>},
     {"anycontain", Make<KZCEkaValidAnyContain, VALUE, MIN, MAX>},
     {"anyexist", Make<KZCEkaValidAnyExist, VALUE>},
     {"alnumsbl", Make<KZCEkaValidAlnumsbl>},
+    {"existdateYYYYMMDD", Make<KZCEkaValidExistDateYYYYMMDD, VALUE>},
 });
 
 constexpr bool HasNoRepeatedKeyword()

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "KZCEkaValidEraSpan.h"
+
+/// Passes an era date that exists in the era that the record states, each era up to its real end.
+class KZCEkaValidExistdate_2 final : public KZCEkaValidEraSpan
+{
+public:
+    KZCEkaValidExistdate_2(long lColumn, KZCEkaMessage_t eMessage);
+};
