@@ -127,7 +127,7 @@ std::string KZCEkaITData::MakeXml(std::span<const ITDataRow> rows) const
         if (strOwnValue.empty() && strChildren.empty())
             continue;
         const std::string strTag = CText::OrEmpty(head.szOwnTag);
-        strXml += "<" + strTag + " ID=\"" + strTag + "\">";
+        strXml.append("<").append(strTag).append(" ID=\"").append(strTag).append("\">");
         strXml += KZCEkaCommon::SpecialEncoding(strOwnValue);
         strXml += strChildren;
         strXml += "</" + strTag + ">";

@@ -1,0 +1,75 @@
+// What is told about one file, whatever the format.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "DetailTable.h"
+#include "ExitStatus.h"
+
+namespace host {
+
+enum class Outcome
+{
+    Passed,
+    Refused,     ///< the file has errors
+    NotChecked,  ///< the check didn't reach the end of the file
+    Converted,
+    NotConverted,  ///< the file passed, but a field of the filer is wrong or no document can be
+                   ///< made
+    NotWritten,    ///< the document could be made but not written
+};
+
+/// What an error belongs to.
+enum class ErrorScope
+{
+    Cell,      ///< one column of a record, or a range
+    Record,    ///< a record without a column
+    File,      ///< the file as a whole
+    Argument,  ///< the path of a file, or a field of the filer
+};
+
+struct ReportedError
+{
+    DetailEntry entry;
+    ErrorScope eScope = ErrorScope::File;
+    std::string strName;  ///< label of the column, or name of the argument; may be empty
+    std::optional<std::string> value;  ///< what stands in the cell or argument; nothing if unknown
+    std::string
+        strHint;  ///< where in the file, as far as the code alone doesn't tell; may be empty
+};
+
+struct WrittenDocument
+{
+    std::string strPath;
+    std::uintmax_t nBytes = 0;
+};
+
+struct FileReport
+{
+    std::string strFile;  ///< as the user named it; not always UTF-8
+    Outcome eOutcome = Outcome::NotChecked;
+    ExitStatus eStatus = ExitStatus::NotChecked;
+    std::string strProcedure;             ///< empty if unknown
+    std::optional<std::size_t> records;   ///< records that aren't blank; nothing if unknown
+    std::vector<ReportedError> vecError;  ///< all of them, in the library's order
+    bool bMoreErrors = false;             ///< the library's table was cut: there are more errors
+    std::string strProblem;               ///< why the file wasn't checked, converted or written
+    std::string strAdvice;                ///< what to do about strProblem
+    std::string strNote;                  ///< something to know beside the errors; may be empty
+    std::optional<WrittenDocument> document;
+
+    /// Distinct records that have an error of their own.
+    std::size_t RecordsWithErrors() const;
+};
+
+/// The text by which formats name an outcome, such as "not_checked".
+const char* OutcomeName(Outcome eOutcome);
+
+/// The catalogue's Japanese text of an error, or a text that says that there is none.
+const char* MessageText(const ReportedError& error);
+
+}  // namespace host

@@ -1,0 +1,18 @@
+// Finds the record behind an error that the library tells for the file as a whole.
+#pragma once
+
+#include <string>
+
+#include "CsvCells.h"
+#include "EkaMsgTable.h"
+#include "FormDefinition.h"
+
+namespace host {
+
+/// A sentence such as "Record 7 has 35 columns, a record of type 002 has 36.", or the empty text.
+/// \param pForms  Null if the definitions can't be read.
+std::string StructureHint(KZCEkaMessage_t eMessage,
+                          const CsvCells& cells,
+                          const FormDefinitions* pForms);
+
+}  // namespace host
