@@ -59,7 +59,7 @@ std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
 /// return.
 struct KZCEkaMOKDefineNode::Search
 {
-    static constexpr long MAX_STEPS = 1000000;
+    static constexpr long MAX_STEPS = 100000;
     static constexpr int MAX_DEPTH = 500;
 
     long lSteps = 0;
