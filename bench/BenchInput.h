@@ -1,0 +1,61 @@
+// The input of every measurement: a resource folder of its own and CSV files made by rule.
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <string>
+
+namespace BenchInput {
+
+/// Type id and procedure of the only report that the made definition file knows.
+inline constexpr const char* TYPE_ID = "002";
+inline constexpr const char* PROCEDURE_ID = "PGE5020";
+/// Columns of a record. The first is the type id, the others are checked.
+inline constexpr std::size_t COLUMN_COUNT = 30;
+/// The most records that a file may have.
+inline constexpr std::size_t MAX_RECORDS = 5000;
+
+enum class Cells
+{
+    CLEAN,  ///< every cell passes its checks
+    WRONG,  ///< every cell but the type id is refused by one of its checks
+};
+
+struct CsvShape
+{
+    std::size_t nRecords = MAX_RECORDS;
+    Cells eCells = Cells::CLEAN;
+    /// Bytes by which the document made of the file is longer than without padding, spread over the
+    /// records' free texts.
+    std::size_t nPadding = 0;
+};
+
+/// A definition file whose report has COLUMN_COUNT columns of every common kind. UTF-8.
+std::string DefinitionText();
+/// A table of tax offices that holds the ones that the CSV files name. UTF-8.
+std::string TaxOfficesText();
+/// A whole CSV file. The same bytes for the same shape. Shift_JIS with CRLF.
+std::string CsvText(const CsvShape& shape);
+
+/// Writes the bytes to a file. Throws std::runtime_error if that fails.
+void WriteFile(const std::filesystem::path& path, const std::string& strBytes);
+
+/// A folder that goes away with its object. Its resource folder is what the library uses from then
+/// on, in this process and in those that it starts.
+class Folder
+{
+public:
+    Folder();
+    ~Folder();
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    std::filesystem::path Path(const std::string& strName) const { return m_path / strName; }
+    /// Makes a CSV file. \return Its path.
+    std::string WriteCsv(const std::string& strName, const CsvShape& shape) const;
+
+private:
+    std::filesystem::path m_path;
+};
+
+}  // namespace BenchInput

@@ -1,0 +1,26 @@
+// Checks one CSV file through the shared library.
+//
+//     bench_check CSV
+//
+// Prints the result and the number of entries of the detail table.
+#include <KZEkaMok/KZEkaMok.h>
+
+#include <algorithm>
+#include <iostream>
+
+int main(int argc, char** argv)
+{
+    if (argc != 2) {
+        std::cerr << "usage: bench_check CSV\n";
+        return 2;
+    }
+    KZICsvConvMokEka converter;
+    const auto pResult = converter.CsvCheck(argv[1]);
+    if (pResult == nullptr)
+        return 3;
+    const std::string& strErrors = pResult->GetDetailErrorInfo();
+    const auto nCommas = std::count(strErrors.begin(), strErrors.end(), ',');
+    std::cout << pResult->GetResult() << ' ' << (strErrors.empty() ? 0 : nCommas + 1) << '\n';
+    converter.Terminate();
+    return 0;
+}
