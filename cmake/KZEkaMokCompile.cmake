@@ -8,10 +8,10 @@ target_compile_options(kzekamok_compile INTERFACE
 target_link_options(kzekamok_compile INTERFACE -Wl,--gc-sections)
 
 # No path of the machine that builds gets into a binary: logs and assertions name sources from the
-# project's root. A debugger and a coverage report need the real paths.
+# project's root. A debugger, a sanitizer's trace and a coverage report need the real paths.
 set(listPrefixMap "${PROJECT_SOURCE_DIR}/=" "${PROJECT_BINARY_DIR}=build")
 foreach(strMap IN LISTS listPrefixMap)
-    if(KZEKAMOK_COVERAGE)
+    if(KZEKAMOK_COVERAGE OR KZEKAMOK_SANITIZE)
         target_compile_options(kzekamok_compile INTERFACE "-fmacro-prefix-map=${strMap}")
     else()
         target_compile_options(kzekamok_compile INTERFACE

@@ -1,4 +1,11 @@
-// Loading and use of a definition file. The whole input is the file.
+// Loading and use of a definition file. The whole input is the file; PLACEHOLDER stands for the
+// resource folder in it.
+#include <sys/inotify.h>
+#include <unistd.h>
+
+#include <array>
+#include <fstream>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -15,23 +22,57 @@ namespace {
 using FuzzSupport::Require;
 
 constexpr const char* TYPE_ID = "002";
-/// Seeds that reach for another file name these; their contents show if one was read.
-constexpr const char* FETCHED = "FETCHED";
-constexpr std::string_view ENTITY =
-    R"(<report id="002" columnNum="3" procId="FETCHED" procVR="1" reportId="FETCHED" reportVR="1"/>)";
-constexpr std::string_view SUBSET =
-    R"(<!ATTLIST report procId CDATA "FETCHED" reportId CDATA "FETCHED">)";
+constexpr std::string_view PLACEHOLDER = "@BUNDLE@";
+/// Files that seeds reach for and that nobody may open.
+constexpr const char* ENTITY_FILE = "fetched.xml";
+constexpr const char* SUBSET_FILE = "fetched.dtd";
+constexpr std::string_view ENTITY = R"(<report id="002" procId="PGE5020" reportId="GEZ002"/>)";
+constexpr std::string_view SUBSET = R"(<!ATTLIST report procId CDATA "PGE5020">)";
 
 constexpr const char* CSV =
     "002,1234567,5,3,4,30,\r\n"
     "002,,x,\x82\xa0,<!-- -->,<![CDATA[a]]>,]]>\r\n";
 
-void RequireNothingFetched(const KZCEkaDefinition& definition)
+std::string WithFolder(std::string strText, const std::string& strFolder)
 {
-    Require(std::string_view(definition.GetProcId()) != FETCHED &&
-                std::string_view(definition.GetReportId()) != FETCHED,
-            "no other file is read");
+    for (std::size_t nAt = 0; (nAt = strText.find(PLACEHOLDER, nAt)) != std::string::npos;
+         nAt += strFolder.size())
+        strText.replace(nAt, PLACEHOLDER.size(), strFolder);
+    return strText;
 }
+
+/// Tells whether a file was opened. What the library makes of a fetched file needn't show in a
+/// result, so the system is asked.
+class OpenWatch
+{
+public:
+    OpenWatch(const std::string& strFolder, std::initializer_list<const char*> listFile)
+        : m_nQueue(inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
+    {
+        for (const char* szFile : listFile) {
+            const std::string strPath = strFolder + '/' + szFile;
+            Require(inotify_add_watch(m_nQueue, strPath.c_str(), IN_OPEN) >= 0, "a watch is set");
+            std::ifstream file(strPath);
+            Require(WasOpened(), "the watch sees the opening of a file");
+        }
+    }
+    ~OpenWatch() { close(m_nQueue); }
+    OpenWatch(const OpenWatch&) = delete;
+    OpenWatch& operator=(const OpenWatch&) = delete;
+
+    /// Since the last call.
+    bool WasOpened() const
+    {
+        std::array<char, 4096> events;
+        bool bOpened = false;
+        while (read(m_nQueue, events.data(), events.size()) > 0)
+            bOpened = true;
+        return bOpened;
+    }
+
+private:
+    int m_nQueue;
+};
 
 /// Uses a definition as a request does. A definition at fault may raise a fault and nothing else.
 void Use(KZCEkaDefinition& definition, bool bDuringCheck)
@@ -59,15 +100,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* pData, std::size_t nSi
 {
     // The XML library stays up between inputs, as it does between the requests of a host.
     static const XercesSession session;
-    static const FuzzSupport::Bundle bundle({{"fetched.xml", ENTITY}, {"fetched.dtd", SUBSET}});
-    bundle.Write("KZEkaDefine.xml", FuzzSupport::AsText(pData, nSize));
+    static const FuzzSupport::Bundle bundle({{ENTITY_FILE, ENTITY}, {SUBSET_FILE, SUBSET}});
+    static const OpenWatch watch(bundle.Path(), {ENTITY_FILE, SUBSET_FILE});
+    bundle.Write("KZEkaDefine.xml",
+                 WithFolder(std::string(FuzzSupport::AsText(pData, nSize)), bundle.Path()));
     for (const bool bDuringCheck : {true, false}) {
         KZCEkaDefinition definition;
         const int nStatus = definition.CreateDefinition(TYPE_ID, bDuringCheck);
         Require(nStatus == STATUS_OK || nStatus == STATUS_NG, "loading ends with a status");
         Require(nStatus != STATUS_OK || *definition.GetProcId() != '\0',
                 "a loaded definition has a procedure");
-        RequireNothingFetched(definition);
+        Require(!watch.WasOpened(), "no other file is fetched");
         if (nStatus == STATUS_OK)
             Use(definition, bDuringCheck);
     }

@@ -36,6 +36,7 @@ public:
     Bundle& operator=(const Bundle&) = delete;
 
     void Write(const std::string& strName, std::string_view strBytes) const;
+    std::string Path() const { return m_path.string(); }
 
 private:
     std::filesystem::path m_path;

@@ -24,19 +24,33 @@ constexpr std::array<ResourceFile, 2> RESOURCE_FILES = {{
     {203, "TaxOffices.xml"},
 }};
 
-/// Code points of the decoder's table and those of the JIS table, on which the character checks of
-/// the base family are defined.
-constexpr std::array<std::pair<char16_t, char16_t>, 9> JIS_UNITS = {{
-    {u'\u005C', u'\u00A5'},
-    {u'\u007E', u'\u203E'},
-    {u'\u2225', u'\u2016'},
-    {u'\uFF0D', u'\u2212'},
-    {u'\uFF3C', u'\u005C'},
-    {u'\uFF5E', u'\u301C'},
-    {u'\uFFE0', u'\u00A2'},
-    {u'\uFFE1', u'\u00A3'},
-    {u'\uFFE2', u'\u00AC'},
-}};
+/// The JIS table's code point for one of the decoder's table. The character checks of the base
+/// family are defined on the former.
+constexpr char16_t JisUnit(char16_t cUnit)
+{
+    switch (cUnit) {
+        case u'\u005C':
+            return u'\u00A5';
+        case u'\u007E':
+            return u'\u203E';
+        case u'\u2225':
+            return u'\u2016';
+        case u'\uFF0D':
+            return u'\u2212';
+        case u'\uFF3C':
+            return u'\u005C';
+        case u'\uFF5E':
+            return u'\u301C';
+        case u'\uFFE0':
+            return u'\u00A2';
+        case u'\uFFE1':
+            return u'\u00A3';
+        case u'\uFFE2':
+            return u'\u00AC';
+        default:
+            return cUnit;
+    }
+}
 
 /// Start and end of a block that is copied as it stands.
 struct BlockTokens
@@ -81,6 +95,13 @@ private:
     std::size_t m_nEnd = 0;
     bool m_bSearched = false;
 };
+
+/// Bytes without which a text is its own escaped form: no block begins without one of them.
+constexpr bool IsSpecial(char cByte)
+{
+    return cByte == '"' || cByte == '&' || cByte == '\'' || cByte == '<' || cByte == '>' ||
+           cByte == '\0';
+}
 
 /// Appends the text with the five XML characters escaped.
 void SpecialEncodingWork(std::string& strOut, std::string_view strText)
@@ -148,12 +169,7 @@ std::u16string KZCEkaCommon::ConvertSPChar(const char* szText)
 std::u16string KZCEkaCommon::ConvertSPCharZeka(const char* szText)
 {
     std::u16string strUnits = MtoWString(szText);
-    for (char16_t& cUnit : strUnits) {
-        const auto* pUnits =
-            std::ranges::find(JIS_UNITS, cUnit, &std::pair<char16_t, char16_t>::first);
-        if (pUnits != JIS_UNITS.end())
-            cUnit = pUnits->second;
-    }
+    std::ranges::transform(strUnits, strUnits.begin(), JisUnit);
     return strUnits;
 }
 
@@ -164,6 +180,8 @@ std::u16string KZCEkaCommon::ConvertSPCharFinance(const char* szText)
 
 std::string KZCEkaCommon::SpecialEncoding(const std::string& strText)
 {
+    if (std::ranges::none_of(strText, IsSpecial))
+        return strText;
     const std::string_view strRest = std::string_view(strText).substr(0, strText.find('\0'));
     std::string strOut;
     strOut.reserve(strRest.size());

@@ -22,6 +22,12 @@ bool IsBlank(const KZCEkaCsvFile::Record& record)
     return record.empty() || record.front().empty();
 }
 
+/// Outside quotes the byte ends a column.
+constexpr bool EndsColumn(char cByte)
+{
+    return cByte == ',' || cByte == '\n' || cByte == '\r';
+}
+
 /// Records an error of the file as a whole. \return STATUS_NG.
 template <class Value>
 int RejectFile(
@@ -201,7 +207,12 @@ int KZCEkaCsvFile::Parse(const char* szText, bool bQuote)
                 ++nIndex;
             nColumnStart = nIndex + 1;
         } else {
-            strBuffer += cByte;
+            // Nothing before the column's end has a meaning any more: one piece.
+            std::size_t nEnd = nIndex + 1;
+            while (nEnd < strText.size() && !EndsColumn(strText[nEnd]))
+                ++nEnd;
+            strBuffer.append(strText, nIndex, nEnd - nIndex);
+            nIndex = nEnd - 1;
         }
     }
 }

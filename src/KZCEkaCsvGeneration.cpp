@@ -1,6 +1,7 @@
 // Record generations: worked out from the cells, by rules of each type id.
 #include <algorithm>
 #include <array>
+#include <initializer_list>
 #include <span>
 #include <string_view>
 
@@ -70,18 +71,43 @@ bool HasSeniorColumns(const KZCEkaCsvFile& csv, long lRecord)
     return !csv.checkEmpty(lRecord, 23) && !csv.checkEmpty(lRecord, 24);
 }
 
-/// Runs a check item as a plain predicate.
+/// The checks of a reference number as plain predicates. They record nothing and keep nothing of
+/// the values that they see, so one set serves every record.
+struct ReferenceChecks
+{
+    static ReferenceChecks& Get()
+    {
+        static ReferenceChecks checks;
+        return checks;
+    }
+
+    KZCEkaValidExist exist{-1, MSG_NONE};
+    KZCEkaValidNumber number{-1, MSG_NONE};
+    KZCEkaValidLength length{-1, MSG_NONE};
+    KZCEkaValidCheckDigit checkDigit{-1, MSG_NONE};
+    KZCEkaValidDigitEquality firstDigit{-1, MSG_NONE};
+
+private:
+    ReferenceChecks()
+    {
+        for (KZCEkaValidItem* pItem : std::initializer_list<KZCEkaValidItem*>{
+                 &exist, &number, &length, &checkDigit, &firstDigit})
+            pItem->SetErrOutput(false);
+        length.SetParam("14", "");
+        checkDigit.SetParam("seiri");
+        firstDigit.SetParam("1", "", "4 5 6 7 8 9");
+    }
+};
+
 bool Passes(KZCEkaValidItem& item, const char* szCell, long lRecord, long lColumn)
 {
-    item.SetErrOutput(false);
     return item.Validate(szCell, lRecord, lColumn) == 0;
 }
 
 bool HasNewFirstDigit(const KZCEkaCsvFile& csv, long lRecord, long lColumn)
 {
-    KZCEkaValidDigitEquality firstDigit(lColumn - 1, MSG_NONE);
-    firstDigit.SetParam("1", "", "4 5 6 7 8 9");
-    return Passes(firstDigit, csv.GetItem(lRecord, lColumn - 1), lRecord, lColumn);
+    return Passes(ReferenceChecks::Get().firstDigit, csv.GetItem(lRecord, lColumn - 1), lRecord,
+                  lColumn);
 }
 
 bool IsJuniorByReference(const KZCEkaCsvFile& csv, long lRecord, const GenerationRule& rule)
@@ -123,12 +149,9 @@ void KZCEkaCsvFile::checkGeneration(long lRecord)
 bool KZCEkaCsvFile::preCheckNumber(long lRecord, long lColumn) const
 {
     const char* szCell = GetItem(lRecord, lColumn - 1);
-    KZCEkaValidExist exist(lColumn - 1, MSG_NONE);
-    KZCEkaValidNumber number(lColumn - 1, MSG_NONE);
-    KZCEkaValidLength length(lColumn - 1, MSG_NONE);
-    length.SetParam("14", "");
-    KZCEkaValidCheckDigit checkDigit(lColumn - 1, MSG_NONE);
-    checkDigit.SetParam("seiri");
-    return Passes(exist, szCell, lRecord, lColumn) && Passes(number, szCell, lRecord, lColumn) &&
-           Passes(length, szCell, lRecord, lColumn) && Passes(checkDigit, szCell, lRecord, lColumn);
+    ReferenceChecks& checks = ReferenceChecks::Get();
+    const std::initializer_list<KZCEkaValidItem*> order = {&checks.exist, &checks.number,
+                                                           &checks.length, &checks.checkDigit};
+    return std::ranges::all_of(
+        order, [&](KZCEkaValidItem* pItem) { return Passes(*pItem, szCell, lRecord, lColumn); });
 }

@@ -19,6 +19,9 @@ constexpr bool IsAsciiWhiteSpace(char cByte)
 
 constexpr bool IsWhiteSpace(char16_t cUnit)
 {
+    constexpr char16_t LAST = 0x3000;
+    if (cUnit > LAST)
+        return false;
     return (cUnit >= 0x0009 && cUnit <= 0x000D) || (cUnit >= 0x2000 && cUnit <= 0x200A) ||
            std::ranges::find(SEPARATORS, cUnit) != SEPARATORS.end();
 }
@@ -29,25 +32,19 @@ constexpr bool IsAscii(std::string_view strText)
                                [](char cByte) { return static_cast<unsigned char>(cByte) < 0x80; });
 }
 
-/// The part between white space at both ends.
-template <class View, class Predicate>
-View TrimView(View text, Predicate isWhiteSpace)
+/// The part of an ASCII text between white space at both ends.
+std::string_view TrimAscii(std::string_view strText)
 {
-    const auto first = std::ranges::find_if_not(text, isWhiteSpace);
-    auto last = text.end();
-    while (last != first && isWhiteSpace(*(last - 1)))
-        --last;
-    return View(first, last);
+    while (!strText.empty() && IsAsciiWhiteSpace(strText.front()))
+        strText.remove_prefix(1);
+    while (!strText.empty() && IsAsciiWhiteSpace(strText.back()))
+        strText.remove_suffix(1);
+    return strText;
 }
 
 std::optional<std::u16string> Decode(std::string_view strText, bool bUtf8)
 {
     return bUtf8 ? Utf8::Decode(strText) : ShiftJis::Decode(strText);
-}
-
-std::optional<std::string> Encode(std::u16string_view strText, bool bUtf8)
-{
-    return bUtf8 ? Utf8::Encode(strText) : ShiftJis::Encode(strText);
 }
 
 /// Bytes of one UTF-16 unit in the encoding: 0 for half of a surrogate pair, which has no form of
@@ -125,12 +122,10 @@ std::string KZCMacOSNative::subStringWithCharacterLength(const std::string& strT
 std::string KZCMacOSNative::stringByTrimming(const std::string& strText, bool bUtf8)
 {
     if (IsAscii(strText))
-        return std::string(TrimView(std::string_view(strText), IsAsciiWhiteSpace));
-    const auto strUnits = Decode(strText, bUtf8);
-    if (!strUnits)
-        return {};
-    return Encode(TrimView(std::u16string_view(*strUnits), IsWhiteSpace), bUtf8)
-        .value_or(std::string());
+        return std::string(TrimAscii(strText));
+    const auto strTrimmed =
+        bUtf8 ? Utf8::Trim(strText, IsWhiteSpace) : ShiftJis::Trim(strText, IsWhiteSpace);
+    return strTrimmed.value_or(std::string());
 }
 
 bool KZCMacOSNative::isIntegerString(const char* szText, bool /*bUtf8*/)

@@ -152,7 +152,9 @@ struct KZCXDom::Parser
     Parser()
     {
         securityManager.setEntityExpansionLimit(MAX_ENTITY_EXPANSIONS);
-        domParser.setValidationScheme(xercesc::XercesDOMParser::Val_Always);
+        // Validates as soon as there is a grammar. Validating always would give the same documents,
+        // but makes and drops an error for every element of a document without one.
+        domParser.setValidationScheme(xercesc::XercesDOMParser::Val_Auto);
         domParser.setDoNamespaces(true);
         domParser.setCreateEntityReferenceNodes(false);
         domParser.setEntityResolver(&entityResolver);
@@ -252,9 +254,10 @@ std::string KZCXDom::GetNodeName() const
 
 std::string KZCXDom::GetAttribute(const char* szName) const
 {
-    const auto* pElement = dynamic_cast<const xercesc::DOMElement*>(m_pCursor);
-    return pElement != nullptr ? ToUtf8(pElement->getAttribute(CharToXMLCh(szName).Get()))
-                               : std::string();
+    if (m_pCursor == nullptr || m_pCursor->getNodeType() != DOMNode::ELEMENT_NODE)
+        return {};
+    const auto* pElement = static_cast<const xercesc::DOMElement*>(m_pCursor);
+    return ToUtf8(pElement->getAttribute(CharToXMLCh(szName).Get()));
 }
 
 bool KZCXDom::HasChild() const

@@ -17,6 +17,10 @@ std::optional<std::string> Encode(std::u16string_view strText);
 /// The Shift_JIS text in canonical form, or nothing if one byte sequence is invalid.
 std::optional<std::string> Canonical(std::string_view strText);
 
+/// The text in canonical form without white space at both ends, or nothing if one byte sequence is
+/// invalid.
+std::optional<std::string> Trim(std::string_view strText, bool (*isWhiteSpace)(char16_t cUnit));
+
 /// The same text as UTF-8, or nothing if one byte sequence is invalid.
 std::optional<std::string> ToUtf8(std::string_view strText);
 
@@ -29,6 +33,9 @@ std::optional<std::u16string> Decode(std::string_view strText);
 
 /// The UTF-8 text of UTF-16 units, or nothing if a surrogate stands alone.
 std::optional<std::string> Encode(std::u16string_view strText);
+
+/// The text without white space at both ends, or nothing if it is not well-formed.
+std::optional<std::string> Trim(std::string_view strText, bool (*isWhiteSpace)(char16_t cUnit));
 
 /// Appends one character of the Basic Multilingual Plane that is no surrogate.
 void AppendUnit(std::string& strOut, char16_t cUnit);

@@ -39,10 +39,8 @@ std::string KZCEkaMOKDefTAG::WriteNodeChild(const KZCEkaCsvFile* pCsv, long lRow
     }
     if (strBody.empty())
         return {};
-    std::string strResult = OpenTag(m_strName) + strBody;
     if (bCloseNow)
-        strResult += CloseTag(m_strName);
-    else
-        m_listCloseTag.push_back(m_strName);
-    return strResult;
+        return Element(m_strName, "", strBody);
+    m_listCloseTag.push_back(m_strName);
+    return OpenTag(m_strName) + strBody;
 }

@@ -17,5 +17,5 @@ std::string KZCEkaMOKDefZeimusho::WriteNode(const KZCEkaCsvFile* pCsv, long lRow
     std::string strBody;
     for (auto pChild = m_vecChild.rbegin(); pChild != m_vecChild.rend(); ++pChild)
         strBody += (*pChild)->WriteNode(pCsv, lRow);
-    return strBody.empty() ? std::string() : OpenTag(m_strName) + strBody + CloseTag(m_strName);
+    return strBody.empty() ? std::string() : Element(m_strName, "", strBody);
 }

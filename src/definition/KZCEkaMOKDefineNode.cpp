@@ -47,6 +47,16 @@ constexpr std::array<NodeKind, 8> NODE_KINDS = {{
     {"IdRef", Make<KZCEkaMOKDefIdRef>},
 }};
 
+/// Appends a tag as its buffer cuts it.
+void AppendTag(std::string& strOut, std::string_view strStart, const std::string& strName)
+{
+    const std::size_t nAt = strOut.size();
+    strOut += strStart;
+    strOut += strName;
+    strOut += '>';
+    strOut.resize(std::min(strOut.size(), nAt + TAG_BUFFER_SIZE - 1));
+}
+
 std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
 {
     return CText::ReadLong(dom.GetAttribute(szAttribute).c_str());
@@ -191,8 +201,7 @@ int KZCEkaMOKDefineNode::Locate(KZCEkaMOKDefineNode* pChild, int nDefault, Searc
     }
     // Among parents of equal name the one defined last is found first. The child may just have
     // become one of them; it is no parent of itself, whatever its name.
-    for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild)
-    {
+    for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild) {
         search.Step();  // a child that hangs here many times is passed over as often
         if (KZCEkaMOKDefineNode& node = *m_vecChild[nChild - 1]; &node != pChild)
             nResult = node.Locate(pChild, nResult, search);
@@ -274,7 +283,7 @@ std::string KZCEkaMOKDefineNode::WriteNode(const KZCEkaCsvFile* pCsv, long lRow)
     const std::string strValue = MakeNodeValue(pCsv, lRow);
     if (strValue.empty() && strBody.empty())
         return {};
-    return OpenTag(m_strName) + strValue + strBody + CloseTag(m_strName);
+    return Element(m_strName, strValue, strBody);
 }
 
 std::string KZCEkaMOKDefineNode::WriteNodeTag(const KZCEkaCsvFile* pCsv,
@@ -334,10 +343,28 @@ void KZCEkaMOKDefineNode::RequireCsv(const KZCEkaCsvFile* pCsv, const char* szFu
 
 std::string KZCEkaMOKDefineNode::OpenTag(const std::string& strName)
 {
-    return CText::CutToBuffer("<" + strName + ">", TAG_BUFFER_SIZE);
+    std::string strTag;
+    AppendTag(strTag, "<", strName);
+    return strTag;
 }
 
 std::string KZCEkaMOKDefineNode::CloseTag(const std::string& strName)
 {
-    return CText::CutToBuffer("</" + strName + ">", TAG_BUFFER_SIZE);
+    std::string strTag;
+    AppendTag(strTag, "</", strName);
+    return strTag;
+}
+
+std::string KZCEkaMOKDefineNode::Element(const std::string& strName,
+                                         std::string_view strValue,
+                                         std::string_view strBody)
+{
+    constexpr std::size_t BRACKETS = 5;
+    std::string strElement;
+    strElement.reserve(strName.size() * 2 + BRACKETS + strValue.size() + strBody.size());
+    AppendTag(strElement, "<", strName);
+    strElement += strValue;
+    strElement += strBody;
+    AppendTag(strElement, "</", strName);
+    return strElement;
 }

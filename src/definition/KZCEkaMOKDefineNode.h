@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "validator/KZCEkaValidator.h"
@@ -98,6 +99,10 @@ protected:
     /// "<name>" and "</name>", cut as their buffer cuts them.
     static std::string OpenTag(const std::string& strName);
     static std::string CloseTag(const std::string& strName);
+    /// The value and then the body between both tags.
+    static std::string Element(const std::string& strName,
+                               std::string_view strValue,
+                               std::string_view strBody);
 
     std::uint32_t m_nRefCount = 0;  ///< parents that hold this node
     std::string m_strName;

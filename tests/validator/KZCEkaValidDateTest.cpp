@@ -1,5 +1,6 @@
 #include "validator/KZCEkaValidDate.h"
 
+#include <algorithm>
 #include <ostream>
 #include <string>
 #include <tuple>
@@ -122,14 +123,24 @@ const ReadCase READ_CASES[] = {
     // Cells are not examined.
     {"LetterInTheYearIsZero", {"4", "x", "9", "1"}, "1988/ 9/ 1", "平成 x/ 9/ 1", "平成 x/ 9/ 1"},
     {"LetterBehindTheYear", {"4", "3x", "9", "1"}, "1991/ 9/ 1", "平成3x/ 9/ 1", "平成3x/ 9/ 1"},
-    {"LetterInTheMonthTravels", {"4", "30", "x", "1"}, "2018/ x/ 1", "平成30/ x/ 1", "平成30/ x/ 1"},
+    {"LetterInTheMonthTravels",
+     {"4", "30", "x", "1"},
+     "2018/ x/ 1",
+     "平成30/ x/ 1",
+     "平成30/ x/ 1"},
     {"LetterInTheDayTravels", {"4", "30", "9", "x"}, "2018/ 9/ x", "平成30/ 9/ x", "平成30/ 9/ x"},
     {"EmptyCells", {"4", "", "", ""}, "1988/  /  ", "平成  /  /  ", "平成  /  /  "},
     {"MissingCells", {"4"}, "1988/  /  ", "平成  /  /  ", "平成  /  /  "},
-    {"LetterAsMonthCountsAsEarly", {"4", "32", "x", "1"}, "2020/ x/ 1", "新号02/ x/ 1",
+    {"LetterAsMonthCountsAsEarly",
+     {"4", "32", "x", "1"},
+     "2020/ x/ 1",
+     "新号02/ x/ 1",
      "平成32/ x/ 1"},
     {"LetterAsMonthStaysIn31", {"4", "31", "x", "1"}, "2019/ x/ 1", "平成31/ x/ 1", "平成31/ x/ 1"},
-    {"YearOfThreeDigitsShiftsTheTail", {"4", "123", "9", "1"}, "20003/ 9/ 1", "平成123/ 9/ 1",
+    {"YearOfThreeDigitsShiftsTheTail",
+     {"4", "123", "9", "1"},
+     "20003/ 9/ 1",
+     "平成123/ 9/ 1",
      "平成123/ 9/ 1"},
     {"PaddingCountsBytes", {"4", "あ", "9", "1"}, "1988 9/ 1", "平成あ/ 9/ 1", "平成あ/ 9/ 1"},
 };
@@ -138,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(Cells, ReadDateTest, testing::ValuesIn(READ_CASES), Cas
 
 using ValidDateTest = ResetState;
 
-// Era (6 bytes), two slashes and 55 bytes of year fill the buffer of 64 up to its end.
+// The buffer holds 63 bytes, of which era, year, month and slashes take 12.
 TEST_F(ValidDateTest, ALongCellIsCutAtTheBuffer)
 {
     const TableCsv csv{{"001", "4", "30", "9", std::string(80, '1')}};
@@ -249,28 +260,17 @@ TEST_P(OptionalDateTest, WithABadEraLogsIfAllFourCellsAreFilled)
 }
 
 constexpr OptionalCase OPTIONAL_CASES[] = {
-    {"Kind003Column10", "003", 10, true},
-    {"Kind004Column14", "004", 14, true},
-    {"Kind005Column16", "005", 16, true},
-    {"Kind003Column14", "003", 14, false},
-    {"Kind003Column16", "003", 16, false},
-    {"Kind003Column9", "003", 9, false},
-    {"Kind003Column11", "003", 11, false},
-    {"Kind004Column10", "004", 10, false},
-    {"Kind004Column16", "004", 16, false},
-    {"Kind005Column10", "005", 10, false},
-    {"Kind005Column14", "005", 14, false},
-    {"Kind002Column10", "002", 10, false},
-    {"Kind006Column16", "006", 16, false},
-    {"KindWithoutZeros", "3", 10, false},
-    {"KindWithABlank", "003 ", 10, false},
-    {"EmptyKind", "", 10, false},
+    {"Kind003Column10", "003", 10, true},  {"Kind004Column14", "004", 14, true},
+    {"Kind005Column16", "005", 16, true},  {"Kind003Column14", "003", 14, false},
+    {"Kind003Column16", "003", 16, false}, {"Kind003Column9", "003", 9, false},
+    {"Kind003Column11", "003", 11, false}, {"Kind004Column10", "004", 10, false},
+    {"Kind004Column16", "004", 16, false}, {"Kind005Column10", "005", 10, false},
+    {"Kind005Column14", "005", 14, false}, {"Kind002Column10", "002", 10, false},
+    {"Kind006Column16", "006", 16, false}, {"KindWithoutZeros", "3", 10, false},
+    {"KindWithABlank", "003 ", 10, false}, {"EmptyKind", "", 10, false},
 };
 
-INSTANTIATE_TEST_SUITE_P(Columns,
-                         OptionalDateTest,
-                         testing::ValuesIn(OPTIONAL_CASES),
-                         CaseName());
+INSTANTIATE_TEST_SUITE_P(Columns, OptionalDateTest, testing::ValuesIn(OPTIONAL_CASES), CaseName());
 
 TEST_F(ValidDateTest, CompletenessIsAskedOfThreeKindsOnly)
 {
@@ -491,7 +491,8 @@ constexpr ConvertCase WESTERN_CASES[] = {
     {"Showa", "昭和64/ 1/ 7", "1989/ 1/ 7"},
     {"Heisei", "平成30/ 9/ 1", "2018/ 9/ 1"},
     {"TheNewEra", "新号 1/ 5/ 1", "2019/ 5/ 1"},
-    {"YearOnly", "平成30", "2018"},
+    // What lies behind the end of a text is the text itself.
+    {"NothingBehindTheYear", "平成30", "2018平成30"},
     {"NoYear", "平成  /  /  ", "1988/  /  "},
     {"UnknownEra", "令和 1/ 5/ 1", "1/ 5/ 1"},
     {"Western", "2019/ 5/ 1", "2019/ 5/ 1"},
@@ -607,8 +608,7 @@ constexpr SystemTimeCase SYSTEM_TIMES[] = {
     {"Padded", "2019/ 4/ 3", true, {2019, 4, 3}, ""},
     {"Era", "平成30/09/30", true, {2018, 9, 30}, ""},
     {"NoMonthRule", "平成32/12/31", true, {2020, 12, 31}, ""},
-    {"NoDate", "2019/02/29", false, UNTOUCHED,
-     "日付の変換に失敗しました。:szValue=2019/02/29\n"},
+    {"NoDate", "2019/02/29", false, UNTOUCHED, "日付の変換に失敗しました。:szValue=2019/02/29\n"},
     {"NoEraDate", "平成30/ 2/30", false, UNTOUCHED,
      "日付の変換に失敗しました。:szValue=平成30/ 2/30\n"},
     {"Empty", "", false, UNTOUCHED, "日付の変換に失敗しました。:szValue=\n"},

@@ -1,3 +1,4 @@
+#include <iterator>
 #include <ostream>
 #include <string>
 #include <typeinfo>
@@ -6,6 +7,7 @@
 #include "support/DebugLog.h"
 #include "support/ResetState.h"
 #include "support/TableCsv.h"
+#include "validator/KZCEkaValidAge.h"
 #include "validator/KZCEkaValidAlnum.h"
 #include "validator/KZCEkaValidAlnumsbl.h"
 #include "validator/KZCEkaValidAlphabet.h"
@@ -13,14 +15,20 @@
 #include "validator/KZCEkaValidAnyExist.h"
 #include "validator/KZCEkaValidCharlength.h"
 #include "validator/KZCEkaValidCheckDigit.h"
+#include "validator/KZCEkaValidCompDate.h"
 #include "validator/KZCEkaValidContain.h"
 #include "validator/KZCEkaValidContainColumn.h"
+#include "validator/KZCEkaValidContainYear.h"
 #include "validator/KZCEkaValidDigitEquality.h"
 #include "validator/KZCEkaValidEmpty.h"
+#include "validator/KZCEkaValidEqualyear.h"
 #include "validator/KZCEkaValidExcept.h"
 #include "validator/KZCEkaValidExceptColumn.h"
 #include "validator/KZCEkaValidExist.h"
+#include "validator/KZCEkaValidExistDateYYYYMMDD.h"
 #include "validator/KZCEkaValidExist_2.h"
+#include "validator/KZCEkaValidExistdate.h"
+#include "validator/KZCEkaValidExistdate_2.h"
 #include "validator/KZCEkaValidExistpath.h"
 #include "validator/KZCEkaValidExtension.h"
 #include "validator/KZCEkaValidIstring.h"
@@ -31,7 +39,14 @@
 #include "validator/KZCEkaValidMultikana_2.h"
 #include "validator/KZCEkaValidNonerr.h"
 #include "validator/KZCEkaValidNumber.h"
+#include "validator/KZCEkaValidOnward.h"
 #include "validator/KZCEkaValidRange.h"
+#include "validator/KZCEkaValidRangebasedate.h"
+#include "validator/KZCEkaValidRangebasedate_2.h"
+#include "validator/KZCEkaValidRangedate.h"
+#include "validator/KZCEkaValidRangedate_2.h"
+#include "validator/KZCEkaValidRangedate_3.h"
+#include "validator/KZCEkaValidRangedate_4.h"
 #include "validator/KZCEkaValidTaxoffice.h"
 #include "validator/KZCEkaValidTaxofficenm.h"
 
@@ -94,10 +109,14 @@ const KeywordCase KEYWORDS[] = {
     {"charlength", &typeid(KZCEkaValidCharlength)},
     {"contain", &typeid(KZCEkaValidContain)},
     {"containcolumn", &typeid(KZCEkaValidContainColumn)},
+    {"containyear", &typeid(KZCEkaValidContainYear)},
     {"empty", &typeid(KZCEkaValidEmpty)},
+    {"equalyear", &typeid(KZCEkaValidEqualyear)},
     {"lvystring", &typeid(KZCEkaValidLvystring)},
     {"except", &typeid(KZCEkaValidExcept)},
     {"exist", &typeid(KZCEkaValidExist)},
+    {"existdate", &typeid(KZCEkaValidExistdate)},
+    {"existdate_2", &typeid(KZCEkaValidExistdate_2)},
     {"existpath", &typeid(KZCEkaValidExistpath)},
     {"extension", &typeid(KZCEkaValidExtension)},
     {"istring", &typeid(KZCEkaValidIstring)},
@@ -107,18 +126,30 @@ const KeywordCase KEYWORDS[] = {
     {"multikana_2", &typeid(KZCEkaValidMultikana_2)},
     {"nonerr", &typeid(KZCEkaValidNonerr)},
     {"number", &typeid(KZCEkaValidNumber)},
+    {"onward", &typeid(KZCEkaValidOnward)},
     {"range", &typeid(KZCEkaValidRange)},
+    {"rangebasedate", &typeid(KZCEkaValidRangebasedate)},
+    {"rangebasedate_2", &typeid(KZCEkaValidRangebasedate_2)},
+    {"rangedate", &typeid(KZCEkaValidRangedate)},
+    {"rangedate_2", &typeid(KZCEkaValidRangedate_2)},
+    {"rangedate_3", &typeid(KZCEkaValidRangedate_3)},
     {"taxoffice", &typeid(KZCEkaValidTaxoffice)},
     {"taxofficenm", &typeid(KZCEkaValidTaxofficenm)},
+    {"age", &typeid(KZCEkaValidAge)},
     {"checkdigit", &typeid(KZCEkaValidCheckDigit)},
     {"digitequality", &typeid(KZCEkaValidDigitEquality)},
     {"exceptcolumn", &typeid(KZCEkaValidExceptColumn)},
+    {"compdate", &typeid(KZCEkaValidCompDate)},
     {"exist_2", &typeid(KZCEkaValidExist_2)},
+    {"rangedate_4", &typeid(KZCEkaValidRangedate_4)},
     {"alphabet", &typeid(KZCEkaValidAlphabet)},
     {"anycontain", &typeid(KZCEkaValidAnyContain)},
     {"anyexist", &typeid(KZCEkaValidAnyExist)},
     {"alnumsbl", &typeid(KZCEkaValidAlnumsbl)},
+    {"existdateYYYYMMDD", &typeid(KZCEkaValidExistDateYYYYMMDD)},
 };
+
+static_assert(std::size(KEYWORDS) == 42);
 
 INSTANTIATE_TEST_SUITE_P(Known, KeywordTest, testing::ValuesIn(KEYWORDS), CaseName());
 
@@ -134,24 +165,6 @@ INSTANTIATE_TEST_SUITE_P(
     Texts,
     UnknownKeywordTest,
     testing::Values("", " ", "Exist", "EXIST", " exist", "exist_3", "exists", "exis", "item"));
-
-// The checks of dates and ages are not there yet.
-INSTANTIATE_TEST_SUITE_P(DatesAndAges,
-                         UnknownKeywordTest,
-                         testing::Values("age",
-                                         "compdate",
-                                         "containyear",
-                                         "equalyear",
-                                         "existdate",
-                                         "existdate_2",
-                                         "existdateYYYYMMDD",
-                                         "onward",
-                                         "rangebasedate",
-                                         "rangebasedate_2",
-                                         "rangedate",
-                                         "rangedate_2",
-                                         "rangedate_3",
-                                         "rangedate_4"));
 
 // --- what the factory hands on ---
 
@@ -257,6 +270,75 @@ const ParameterCase PARAMETERS[] = {
     {"DigitEqualityMaxAllows", {"digitequality", "1", "", "9"}, {"001", "9"}, PASSES},
     {"ExtensionValue", {"extension", ".csv"}, {"001", "a.txt"}, "refuses 0001-00002-HE70015E"},
     {"ExistpathValue", {"existpath", "x"}, {"001", "a"}, RAISES},
+    {"ContainYearValue",
+     {"containyear", "2017"},
+     {"001", "4", "30"},
+     "refuses 0001-02:03-HE70025E"},
+    {"EqualyearValue", {"equalyear", "4"}, {"001", "4", "30", "4", "30"}, PASSES},
+    {"EqualyearMin", {"equalyear", "4", "1", ""}, {"001", "4", "29", "4", "30"}, PASSES},
+    {"EqualyearMax", {"equalyear", "4", "", "1"}, {"001", "4", "30", "4", "29"}, PASSES},
+    {"ExistDateYYYYMMDDValue", {"existdateYYYYMMDD", "2 3 4"}, {"001", "2018", "9", "1"}, PASSES},
+    {"OnwardValue", {"onward", "20180901"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"RangebasedateValue",
+     {"rangebasedate", "1_2", "2018/09/02", ""},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-02:05-HE70025E"},
+    {"RangebasedateMin",
+     {"rangebasedate", "", "6", ""},
+     {"001", "4", "30", "9", "1", "4", "30", "9", "2"},
+     "refuses 0001-02:05-HE70025E"},
+    {"RangebasedateMax",
+     {"rangebasedate", "", "", "6"},
+     {"001", "4", "30", "9", "2", "4", "30", "9", "1"},
+     "refuses 0001-02:05-HE70025E"},
+    {"Rangebasedate_2Value",
+     {"rangebasedate_2", "include", "2", "2"},
+     {"001", "4", "30", "9", "1"},
+     PASSES},
+    {"Rangebasedate_2Min",
+     {"rangebasedate_2", "", "6", ""},
+     {"001", "4", "30", "9", "2", "4", "30", "9", "1"},
+     PASSES},
+    {"Rangebasedate_2Max",
+     {"rangebasedate_2", "", "", "6"},
+     {"001", "4", "30", "9", "1", "4", "30", "9", "2"},
+     PASSES},
+    {"RangedateMin",
+     {"rangedate", "", "20180902", "20181231"},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-02:05-HE70010E"},
+    {"RangedateMax",
+     {"rangedate", "", "20180101", "20180831"},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-02:05-HE70010E"},
+    {"Rangedate_2MinAndMax",
+     {"rangedate_2", "", "20180101", "6"},
+     {"001", "4", "30", "9", "1", "4", "30"},
+     PASSES},
+    {"Rangedate_3Value",
+     {"rangedate_3", "6"},
+     {"001", "4", "30", "10", "1", "4", "30"},
+     "refuses 0001-02:05-HE70025E"},
+    {"Rangedate_4Min",
+     {"rangedate_4", "", "20180902", "20181231"},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-02:05-HE70010E"},
+    {"Rangedate_4Max",
+     {"rangedate_4", "", "20180101", "20180831"},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-02:05-HE70010E"},
+    {"CompDateValue", {"compdate", "20180901"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"CompDateMin", {"compdate", "", "20180831"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"CompDateMax", {"compdate", "", "", "20180902"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"AgeValue", {"age", "2 2 0 9 1"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"AgeMin",
+     {"age", "2 2 0 9 1", "1"},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-00002-HE70010E"},
+    {"AgeMax",
+     {"age", "2 2 1 9 1", "", "0"},
+     {"001", "4", "30", "9", "1"},
+     "refuses 0001-00002-HE70010E"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Attributes, ParameterTest, testing::ValuesIn(PARAMETERS), CaseName());
@@ -304,6 +386,33 @@ const ParameterCase DROPPED[] = {
      {"existpath", "dir", "file", "file"},
      {"001", "/missing-folder/x.mok"},
      "refuses 0001-00002-HE70010E"},
+    {"ContainYearMinAndMax", {"containyear", "2018", "x", "x"}, {"001", "4", "30"}, PASSES},
+    {"Existdate", {"existdate", "x", "x", "x"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"Existdate_2", {"existdate_2", "x", "x", "x"}, {"001", "4", "30", "9", "1"}, PASSES},
+    {"ExistDateYYYYMMDDMinAndMax",
+     {"existdateYYYYMMDD", "2 3 4", "x", "x"},
+     {"001", "2018", "9", "1"},
+     PASSES},
+    {"OnwardMinAndMax",
+     {"onward", "20180901", "20190101", "20180101"},
+     {"001", "4", "30", "9", "1"},
+     PASSES},
+    {"RangedateValue",
+     {"rangedate", "x", "20180101", "20181231"},
+     {"001", "4", "30", "9", "1"},
+     PASSES},
+    {"Rangedate_2Value",
+     {"rangedate_2", "x", "20180101", "6"},
+     {"001", "4", "30", "9", "1", "4", "30"},
+     PASSES},
+    {"Rangedate_3MinAndMax",
+     {"rangedate_3", "6", "x", "x"},
+     {"001", "4", "30", "9", "1", "4", "30"},
+     PASSES},
+    {"Rangedate_4Value",
+     {"rangedate_4", "x", "20180101", "20181231"},
+     {"001", "4", "30", "9", "1"},
+     PASSES},
 };
 
 INSTANTIATE_TEST_SUITE_P(Attributes, DroppedParameterTest, testing::ValuesIn(DROPPED), CaseName());

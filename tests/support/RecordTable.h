@@ -1,0 +1,37 @@
+// A CSV file without a file, whose cells can be changed.
+#pragma once
+
+#include <string>
+#include <utility>
+
+#include "KZCEkaCsvFile.h"
+
+/// Holds records whose generations follow their cells. Records count from 0, columns from 1.
+class RecordTable final : public KZCEkaCsvFile
+{
+public:
+    /// Replaces the record, or adds one behind the last.
+    void Put(long lRow, Record record)
+    {
+        const auto nRow = static_cast<std::size_t>(lRow);
+        if (nRow == m_vecRecord.size())
+            m_vecRecord.emplace_back();
+        m_vecRecord.at(nRow) = std::move(record);
+        FindGeneration(lRow);
+    }
+    void PutCell(long lRow, long lColumn, std::string strCell)
+    {
+        m_vecRecord.at(static_cast<std::size_t>(lRow)).at(static_cast<std::size_t>(lColumn - 1)) =
+            std::move(strCell);
+        FindGeneration(lRow);
+    }
+    const Record& At(long lRow) const { return m_vecRecord.at(static_cast<std::size_t>(lRow)); }
+    std::string Cell(long lRow, long lColumn) const { return GetItem(lRow, lColumn - 1); }
+
+private:
+    void FindGeneration(long lRow)
+    {
+        m_mapGeneration.erase(lRow);
+        checkGeneration(lRow);
+    }
+};
