@@ -111,15 +111,9 @@ TEST_P(GoldenDocumentTest, ElPathGivesTheExpectedBytesWithItsOwnSoftwareName)
 }
 
 constexpr GoldenCase CASES[] = {
-    {"PGE5010_sample"},
-    {"PGE5020_sample"},
-    {"PGE5030_sample"},
-    {"PGE5040_sample"},
-    {"PGE5050_sample"},
-    {"PGE5060_sample"},
-    {"PGE5070_sample"},
-    {"PGE5080_sample"},
-    {"PGE5090_sample"},
+    {"PGE5010_sample"}, {"PGE5020_sample"}, {"PGE5030_sample"},
+    {"PGE5040_sample"}, {"PGE5050_sample"}, {"PGE5060_sample"},
+    {"PGE5070_sample"}, {"PGE5080_sample"}, {"PGE5090_sample"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases,

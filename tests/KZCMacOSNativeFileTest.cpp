@@ -323,8 +323,8 @@ TEST_F(KZCMacOSNativeFileTest, WriteSJISFileRemovesAFileThatItMadeThroughALink)
     std::filesystem::create_symlink(m_folder.Path("target.csv"), m_folder.Path("a.csv"));
     {
         const FileSizeLimit limit(5000);
-        EXPECT_FALSE(KZCMacOSNative::writeSJISFile(
-            m_folder.Path("a.csv").c_str(), std::string(100000, 'a').c_str(), true));
+        EXPECT_FALSE(KZCMacOSNative::writeSJISFile(m_folder.Path("a.csv").c_str(),
+                                                   std::string(100000, 'a').c_str(), true));
     }
     EXPECT_FALSE(std::filesystem::exists(m_folder.Path("target.csv")));
 }

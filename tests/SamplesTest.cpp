@@ -76,15 +76,8 @@ TEST_P(SamplesTest, FailingFileGivesTheSameTableOnTheElPath)
 }
 
 constexpr SampleCase CASES[] = {
-    {"PGE5010", "52"},
-    {"PGE5020", "52"},
-    {"PGE5030", "52"},
-    {"PGE5040", "52"},
-    {"PGE5050", "52"},
-    {"PGE5060", "52"},
-    {"PGE5070", "52"},
-    {"PGE5080", "52"},
-    {"PGE5090", "52"},
+    {"PGE5010", "52"}, {"PGE5020", "52"}, {"PGE5030", "52"}, {"PGE5040", "52"}, {"PGE5050", "52"},
+    {"PGE5060", "52"}, {"PGE5070", "52"}, {"PGE5080", "52"}, {"PGE5090", "52"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Forms, SamplesTest, testing::ValuesIn(CASES), [](const auto& testCase) {

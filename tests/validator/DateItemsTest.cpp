@@ -153,11 +153,7 @@ TEST_P(EveryDateItemTest, RunsIfItsConditionsHold)
 TEST_P(EveryDateItemTest, GatesAnotherItem)
 {
     const auto pItem = MakeItem({"empty"}, 0);
-    const auto Gate = [this] {
-        auto pGate = MakeItem(GetParam().text, COLUMN);
-        return pGate.release();
-    };
-    pItem->AddOuterItem(Gate());
+    pItem->AddOuterItem(MakeItem(GetParam().text, COLUMN).release());
     EXPECT_EQ(OnRecord(*pItem, m_csv, PASSED), "refuses 0001-00001-HE70005E");
     const std::string strSkipped = OnRecord(*pItem, m_csv, REFUSED);
     EXPECT_TRUE(strSkipped.starts_with(PASSES)) << strSkipped;
