@@ -15,7 +15,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 DEFINITION = ROOT / "resources" / "KZEkaMok.bundle" / "KZEkaDefine.xml"
-KEYWORD_SOURCE = ROOT / "src" / "validator" / "KZCEkaItemKeywords.cpp"
+KEYWORD_SOURCE = ROOT / "src" / "validator" / "KZCEkaValidItemFactory.cpp"
 TABLE = ROOT / "docs" / "keywords-by-form.md"
 
 # They look at a path of a request, which no column holds.
