@@ -307,7 +307,7 @@ std::string DefinitionText()
         strText += std::string("<item ") + column.szItem + R"( column=")" +
                    std::to_string(nColumn++) + R"(">)" + column.szChecks + "</item>\n";
     }
-    return strText + "</report></DEFINE>\n";
+    return strText + "</report>" + DateReportText() + "</DEFINE>\n";
 }
 
 std::string TaxOfficesText()

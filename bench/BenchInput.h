@@ -32,6 +32,10 @@ struct CsvShape
 
 /// A definition file whose report has COLUMN_COUNT columns of every common kind. UTF-8.
 std::string DefinitionText();
+/// A report of type id "001" with every date check and age. UTF-8; DefinitionText holds it too.
+std::string DateReportText();
+/// A CSV file for it, COLUMN_COUNT columns a record, that passes.
+std::string DateCsvText(std::size_t nRecords);
 /// A table of tax offices that holds the ones that the CSV files name. UTF-8.
 std::string TaxOfficesText();
 /// A whole CSV file. The same bytes for the same shape. Shift_JIS with CRLF.

@@ -2,16 +2,15 @@
 #include <KZEkaMok/KZEkaMok.h>
 #include <benchmark/benchmark.h>
 
+#include <string>
+
 #include "BenchInput.h"
 #include "KZCCsvConvMokEka.h"
 
 namespace {
 
-void Check(benchmark::State& state, BenchInput::Cells eCells, const char* szExpected)
+void Check(benchmark::State& state, const std::string& strCsv, const char* szExpected)
 {
-    const BenchInput::Folder folder;
-    const auto nRecords = static_cast<std::size_t>(state.range(0));
-    const std::string strCsv = folder.WriteCsv("check.csv", {nRecords, eCells});
     KZCCsvConvMokEka converter;
     for (auto _ : state) {
         if (converter.CsvCheck(strCsv.c_str())->GetResult() != szExpected) {
@@ -24,18 +23,36 @@ void Check(benchmark::State& state, BenchInput::Cells eCells, const char* szExpe
                             static_cast<std::int64_t>(BenchInput::COLUMN_COUNT));
 }
 
+std::size_t RecordCount(const benchmark::State& state)
+{
+    return static_cast<std::size_t>(state.range(0));
+}
+
 void CheckClean(benchmark::State& state)
 {
-    Check(state, BenchInput::Cells::CLEAN, PROCESS_OK);
+    const BenchInput::Folder folder;
+    Check(state, folder.WriteCsv("check.csv", {RecordCount(state), BenchInput::Cells::CLEAN}),
+          PROCESS_OK);
 }
 
 void CheckEveryCellWrong(benchmark::State& state)
 {
-    Check(state, BenchInput::Cells::WRONG, PROCESS_FAIL);
+    const BenchInput::Folder folder;
+    Check(state, folder.WriteCsv("check.csv", {RecordCount(state), BenchInput::Cells::WRONG}),
+          PROCESS_FAIL);
+}
+
+void CheckDates(benchmark::State& state)
+{
+    const BenchInput::Folder folder;
+    const std::string strCsv = folder.Path("dates.csv").string();
+    BenchInput::WriteFile(strCsv, BenchInput::DateCsvText(RecordCount(state)));
+    Check(state, strCsv, PROCESS_OK);
 }
 
 // The argument is the number of records; items are cells.
 BENCHMARK(CheckClean)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(CheckDates)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(CheckEveryCellWrong)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

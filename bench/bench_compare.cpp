@@ -150,6 +150,8 @@ void Compare(int nRuns)
 
     const std::size_t nPadding = FindPadding(folder);
     const std::string strClean = folder.WriteCsv("clean.csv", {});
+    const std::string strDates = folder.Path("dates.csv").string();
+    BenchInput::WriteFile(strDates, BenchInput::DateCsvText(BenchInput::MAX_RECORDS));
     const std::string strFew = folder.WriteCsv("few.csv", {500});
     const std::string strWrong =
         folder.WriteCsv("wrong.csv", {BenchInput::MAX_RECORDS, BenchInput::Cells::WRONG});
@@ -169,6 +171,10 @@ void Compare(int nRuns)
     Command bareLeast = {
         "the same, not validating", {Sibling("bench_xml"), "--never-validate", strMok}, strSizes};
     Command check = {"check, 5,000 x 30 clean", {Sibling("bench_check"), strClean}, "S_OK 0\n"};
+    Command checkDates = {
+        "check, 5,000 x 30, every date check", {Sibling("bench_check"), strDates}, "S_OK 0\n"};
+    Command millerDates = {
+        "mlr --icsv --ocsv cat of that", {"mlr", "--icsv", "--ocsv", "cat", strDates}, ""};
     Command checkFew = {"check, 500 x 30 clean", {Sibling("bench_check"), strFew}, "S_OK 0\n"};
     Command checkWrong = {"check, 5,000 x 30, every cell wrong",
                           {Sibling("bench_check"), strWrong},
@@ -176,11 +182,11 @@ void Compare(int nRuns)
     Command miller = {
         "mlr --icsv --ocsv cat, 5,000 x 30", {"mlr", "--icsv", "--ocsv", "cat", strClean}, ""};
 
-    std::vector<Command*> vecCommand = {&convert, &bare,     &bareLeast, &convertTenth,
-                                        &check,   &checkFew, &checkWrong};
+    std::vector<Command*> vecCommand = {&convert, &bare,     &bareLeast,  &convertTenth,
+                                        &check,   &checkFew, &checkWrong, &checkDates};
     const bool bMiller = HasProgram("mlr");
     if (bMiller)
-        vecCommand.push_back(&miller);
+        vecCommand.insert(vecCommand.end(), {&miller, &millerDates});
     for (int i = 0; i < nRuns; ++i) {
         for (Command* pCommand : vecCommand)
             Run(*pCommand, folder);
@@ -196,10 +202,13 @@ void Compare(int nRuns)
                static_cast<double>(convert.lPeakKiB), static_cast<double>(bare.lPeakKiB), 1.25);
     PrintRatioWithoutBudget("conversion near 10 MiB / bare run not validating, time",
                             convert.dSeconds, bareLeast.dSeconds);
-    if (bMiller)
+    if (bMiller) {
         PrintRatio("clean check / mlr cat of the same file", check.dSeconds, miller.dSeconds, 1.0);
-    else
+        PrintRatio("check of dates / mlr cat of the same file", checkDates.dSeconds,
+                   millerDates.dSeconds, 1.0);
+    } else {
         std::printf("clean check / mlr cat: not measured, mlr (miller) isn't installed\n");
+    }
     PrintRatio("every cell wrong / clean check", checkWrong.dSeconds, check.dSeconds, 3.0);
     PrintRatio("check of 5,000 / of 500 records", check.dSeconds, checkFew.dSeconds, 11.0);
     PrintRatio("conversion of 5,000 / of 500 records", convert.dSeconds, convertTenth.dSeconds,

@@ -15,7 +15,11 @@ constexpr std::string_view WESTERN_CHARACTERS = "1234567890/:.- ";
 class Scanner
 {
 public:
-    explicit Scanner(std::string_view strText) : m_strRest(strText) {}
+    /// \param strSeparators  What may stand between the parts of a date.
+    Scanner(std::string_view strText, std::string_view strSeparators)
+        : m_strRest(strText), m_strSeparators(strSeparators)
+    {
+    }
 
     /// A number of nMin to nMax digits, blanks before it allowed.
     int Number(std::size_t nMin, std::size_t nMax)
@@ -31,10 +35,14 @@ public:
         return nNumber;
     }
 
-    void Literal(std::string_view strLiteral)
+    void Separator() { OneOf(m_strSeparators); }
+
+    void OneOf(std::string_view strCharacters)
     {
-        m_bFailed = m_bFailed || !m_strRest.starts_with(strLiteral);
-        m_strRest.remove_prefix(std::min(strLiteral.size(), m_strRest.size()));
+        const bool bFound =
+            !m_strRest.empty() && strCharacters.find(m_strRest.front()) != std::string_view::npos;
+        m_bFailed = m_bFailed || !bFound;
+        m_strRest.remove_prefix(bFound ? 1 : 0);
     }
 
     void SkipBlanks()
@@ -66,6 +74,7 @@ public:
 
 private:
     std::string_view m_strRest;
+    std::string_view m_strSeparators;
     bool m_bFailed = false;
 };
 
@@ -93,25 +102,24 @@ void ReplaceAll(std::string& strText, std::string_view strFrom, std::string_view
 /// "/MM/dd", and " HH:mm:ss" behind it.
 void ReadRest(Scanner& scanner, DateTime& date, bool bHasTime)
 {
-    scanner.Literal("/");
+    scanner.Separator();
     date.nMonth = scanner.Number(1, 2);
-    scanner.Literal("/");
+    scanner.Separator();
     date.nDay = scanner.Number(1, 2);
     if (!bHasTime)
         return;
-    scanner.Literal(" ");
+    scanner.OneOf(" ");
     date.nHour = scanner.Number(1, 2);
-    scanner.Literal(":");
+    scanner.OneOf(":");
     date.nMinute = scanner.Number(1, 2);
-    scanner.Literal(":");
+    scanner.OneOf(":");
     date.nSecond = scanner.Number(1, 2);
 }
 
-std::optional<DateTime> ReadWestern(std::string strText, bool bHasTime)
+/// Hyphens and full stops separate as slashes do.
+std::optional<DateTime> ReadWestern(std::string_view strText, bool bHasTime)
 {
-    std::ranges::replace(strText, '-', '/');
-    std::ranges::replace(strText, '.', '/');
-    Scanner scanner(strText);
+    Scanner scanner(strText, "/-.");
     DateTime date = {};
     date.nYear = scanner.Number(4, 4);
     ReadRest(scanner, date, bHasTime);
@@ -135,7 +143,7 @@ std::optional<DateTime> ReadJapanese(std::string strText, bool bHasTime)
     for (const auto& [strFrom, strTo] : REPLACEMENTS)
         ReplaceAll(strText, strFrom, strTo);
 
-    Scanner scanner(strText);
+    Scanner scanner(strText, "/");
     const std::string_view strEra = scanner.EraName();
     DateTime date = {};
     const int nYearInEra = scanner.Number(1, 2);
@@ -152,6 +160,5 @@ std::optional<DateTime> ReadDate(std::string_view strText)
 {
     const bool bHasTime = strText.find(':') != std::string_view::npos;
     const bool bWestern = strText.find_first_not_of(WESTERN_CHARACTERS) == std::string_view::npos;
-    return bWestern ? ReadWestern(std::string(strText), bHasTime)
-                    : ReadJapanese(std::string(strText), bHasTime);
+    return bWestern ? ReadWestern(strText, bHasTime) : ReadJapanese(std::string(strText), bHasTime);
 }

@@ -7,12 +7,6 @@ namespace EraTable {
 
 namespace {
 
-struct Era
-{
-    std::string_view strName;
-    int nBase;
-};
-
 /// By code, from 1. The fifth era's name stays a placeholder.
 constexpr std::array<Era, 5> ERAS = {{
     {"明治", 1867},
@@ -39,6 +33,13 @@ constexpr std::array<Span, 5> REAL_SPANS = {{
 }};
 
 }  // namespace
+
+const Era* FindPrefix(std::string_view strText)
+{
+    const auto* pEra = std::ranges::find_if(
+        ERAS, [strText](const Era& era) { return strText.starts_with(era.strName); });
+    return pEra != ERAS.end() ? pEra : nullptr;
+}
 
 bool IsEra(int nCode)
 {

@@ -15,11 +15,20 @@ struct Span
     const char* szLast;
 };
 
+/// Name and base of an era: Western year = year in the era + base.
+struct Era
+{
+    std::string_view strName;
+    int nBase;
+};
+
+/// The era whose name the text begins with, or null.
+const Era* FindPrefix(std::string_view strText);
 /// The code (1 to 5) names an era.
 bool IsEra(int nCode);
 /// Its name.
 std::string Name(int nCode);
-/// Western year = year in the era + base; 0 for an unknown name.
+/// Its base; 0 for an unknown name.
 int Base(std::string_view strName);
 
 /// Spans in which the fourth era runs up to the end of its year 32's March, and up to its real end.

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <array>
 
+#include "ByteClass.h"
 #include "CText.h"
 #include "KZCMacOSNative.h"
 #include "ShiftJis.h"
@@ -24,12 +25,6 @@ constexpr bool IsWhiteSpace(char16_t cUnit)
         return false;
     return (cUnit >= 0x0009 && cUnit <= 0x000D) || (cUnit >= 0x2000 && cUnit <= 0x200A) ||
            std::ranges::find(SEPARATORS, cUnit) != SEPARATORS.end();
-}
-
-constexpr bool IsAscii(std::string_view strText)
-{
-    return std::ranges::all_of(strText,
-                               [](char cByte) { return static_cast<unsigned char>(cByte) < 0x80; });
 }
 
 /// The part of an ASCII text between white space at both ends.
@@ -121,7 +116,7 @@ std::string KZCMacOSNative::subStringWithCharacterLength(const std::string& strT
 
 std::string KZCMacOSNative::stringByTrimming(const std::string& strText, bool bUtf8)
 {
-    if (IsAscii(strText))
+    if (ByteClass::IsAscii(strText))
         return std::string(TrimAscii(strText));
     const auto strTrimmed =
         bUtf8 ? Utf8::Trim(strText, IsWhiteSpace) : ShiftJis::Trim(strText, IsWhiteSpace);
@@ -133,7 +128,7 @@ bool KZCMacOSNative::isIntegerString(const char* szText, bool /*bUtf8*/)
     const std::string_view strText = CText::OrEmpty(szText);
     // In either encoding a byte above ASCII belongs to a character of several bytes in UTF-8, or to
     // a text that can't be read: both are no number.
-    if (!IsAscii(strText))
+    if (!ByteClass::IsAscii(strText))
         return false;
     bool bDigitSeen = false;
     bool bSignOpen = false;

@@ -188,7 +188,7 @@ std::string KZCEkaValidDate::ConvEraString(const char* szDate)
     constexpr int LAST_MONTH_OF_31 = 4;
     constexpr int LAST_MONTH_OF_32 = 3;
     const std::string strDate = CText::OrEmpty(szDate);
-    if (m_bKeepEraName || BeginsWithDigit(szDate))
+    if (m_bKeepEraName || !strDate.starts_with("平成3"))
         return strDate;
     const std::string strHead = Part(strDate, 0, HEAD_LENGTH);
     const int nMonth = NumberPart(strDate, MONTH_AT);
@@ -204,6 +204,14 @@ std::string KZCEkaValidDate::WarekiToSeireki(const std::string& strDate)
 {
     if (strDate.empty() || BeginsWithDigit(strDate.c_str()))
         return strDate;
+    if (const auto pEra = EraTable::FindPrefix(strDate)) {
+        // The usual text: everything behind the name is ASCII, a byte a character.
+        const std::string_view strRest = std::string_view(strDate).substr(pEra->strName.size());
+        if (strRest.size() > FIELD_LENGTH && ByteClass::IsAscii(strRest))
+            return std::to_string(CText::ReadInt(std::string(strRest, 0, FIELD_LENGTH).c_str()) +
+                                  pEra->nBase)
+                .append(strRest.substr(FIELD_LENGTH));
+    }
     const int nYear = NumberPart(strDate, YEAR_AT) + EraTable::Base(Part(strDate, 0, ERA_LENGTH));
     return std::to_string(nYear) + Part(strDate, HEAD_LENGTH, TO_THE_END);
 }
