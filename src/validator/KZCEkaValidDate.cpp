@@ -187,7 +187,7 @@ std::string KZCEkaValidDate::ConvEraString(const char* szDate)
 {
     constexpr int LAST_MONTH_OF_31 = 4;
     constexpr int LAST_MONTH_OF_32 = 3;
-    const std::string strDate = CText::OrEmpty(szDate);
+    std::string strDate = CText::OrEmpty(szDate);
     if (m_bKeepEraName || !strDate.starts_with("平成3"))
         return strDate;
     const std::string strHead = Part(strDate, 0, HEAD_LENGTH);
