@@ -4,19 +4,11 @@
 # Notes the files of a list, which are relative to the current folder.
 # strOutput  Variable that receives the list.
 function(kzekamok_sources strOutput)
-    set(listFound "")
     foreach(strFile IN LISTS ARGN)
         set_property(GLOBAL APPEND PROPERTY KZEKAMOK_LISTED_SOURCES
             "${CMAKE_CURRENT_SOURCE_DIR}/${strFile}")
-        # TEMPORARY, remove this block of three: skips files that don't exist yet.
-        if(NOT EXISTS "${CMAKE_CURRENT_SOURCE_DIR}/${strFile}")
-            continue()
-        endif()
-        list(APPEND listFound "${strFile}")
     endforeach()
-    # TEMPORARY, remove this line: configures again when a file appears.
-    file(GLOB_RECURSE listIgnored CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
-    set(${strOutput} "${listFound}" PARENT_SCOPE)
+    set(${strOutput} "${ARGN}" PARENT_SCOPE)
 endfunction()
 
 # Writes all noted files, one a line, for CheckSourceList.cmake.
