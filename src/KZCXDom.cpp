@@ -12,6 +12,7 @@
 #include <xercesc/util/IOException.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLUni.hpp>
+#include <xercesc/validators/DTD/DTDElementDecl.hpp>
 
 #include "CText.h"
 #include "Fault.h"
@@ -32,6 +33,15 @@ constexpr XMLSize_t MAX_ENTITY_EXPANSIONS = 100;
 /// Deeper elements are an attack: the library looks names up from the innermost element outwards,
 /// so that its time grows with the square of the depth.
 constexpr int MAX_ELEMENT_DEPTH = 1000;
+/// More attributes at one element are an attack: the library finds the place of each by looking at
+/// all.
+constexpr XMLSize_t MAX_ATTRIBUTES = 20000;
+/// Bytes of a document that brings a grammar of its own. Much in the library's reading of a grammar
+/// grows with the square of its size.
+constexpr std::size_t MAX_SIZE_WITH_GRAMMAR = 65536;
+/// Units of an element's content model in a document's own grammar. The automaton that the library
+/// makes of a longer one may be without measure.
+constexpr std::size_t MAX_CONTENT_MODEL = 64;
 /// Bytes that the text of one serialised document is expected to take at least.
 constexpr std::size_t EXPECTED_SIZE = 1023;
 
@@ -71,7 +81,7 @@ public:
                       const bool isEmpty,
                       const bool isRoot) override
     {
-        if (++m_nDepth > MAX_ELEMENT_DEPTH)
+        if (++m_nDepth > MAX_ELEMENT_DEPTH || attrCount > MAX_ATTRIBUTES)
             throw FAULT;
         XercesDOMParser::startElement(elemDecl, uriId, prefixName, attrList, attrCount, isEmpty,
                                       isRoot);
@@ -87,7 +97,46 @@ public:
         XercesDOMParser::endElement(elemDecl, uriId, isRoot, prefixName);
     }
 
+    /// Called before the grammar inside the document is read.
+    void doctypeDecl(const xercesc::DTDElementDecl& elemDecl,
+                     const XMLCh* const publicId,
+                     const XMLCh* const systemId,
+                     const bool hasIntSubset,
+                     const bool hasExtSubset) override
+    {
+        if (m_nSize > MAX_SIZE_WITH_GRAMMAR)
+            throw FAULT;
+        XercesDOMParser::doctypeDecl(elemDecl, publicId, systemId, hasIntSubset, hasExtSubset);
+    }
+
+    void elementDecl(const xercesc::DTDElementDecl& decl, const bool isIgnored) override
+    {
+        const XMLCh* szModel = decl.getFormattedContentModel();
+        if (szModel != nullptr && std::u16string_view(szModel).size() > MAX_CONTENT_MODEL)
+            throw FAULT;
+        XercesDOMParser::elementDecl(decl, isIgnored);
+    }
+
+    /// Parameter entities are refused where they are declared: no limit of the library counts their
+    /// expansions.
+    void entityDecl(const xercesc::DTDEntityDecl& entityDecl,
+                    const bool isPEDecl,
+                    const bool isIgnored) override
+    {
+        if (isPEDecl)
+            throw FAULT;
+        XercesDOMParser::entityDecl(entityDecl, isPEDecl, isIgnored);
+    }
+
+    /// \param nSize  Bytes of the source.
+    void ParseSource(const xercesc::MemBufInputSource& source, std::size_t nSize)
+    {
+        m_nSize = nSize;
+        parse(source);
+    }
+
 private:
+    std::size_t m_nSize = 0;
     int m_nDepth = 0;
 };
 
@@ -199,7 +248,7 @@ bool KZCXDom::Parse(const char* szText, const char* szBufferId, const char* szEn
                                           CharToXMLCh(CText::OrEmpty(szBufferId)).Get());
         if (szEncoding != nullptr)
             source.setEncoding(CharToXMLCh(szEncoding).Get());
-        m_pParser->domParser.parse(source);
+        m_pParser->domParser.ParseSource(source, std::char_traits<char>::length(szText));
     });
 }
 
@@ -214,7 +263,7 @@ bool KZCXDom::Parse(const char* szPath)
         // Read by the library's own file layer, a path would depend on the locale.
         const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(strBytes.data()),
                                                 strBytes.size(), CharToXMLCh("file").Get());
-        m_pParser->domParser.parse(source);
+        m_pParser->domParser.ParseSource(source, strBytes.size());
     });
 }
 
