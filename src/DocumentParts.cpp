@@ -47,8 +47,12 @@ std::string CatalogueHead()
 
 std::string CatalogueItem(const std::string& strReportId)
 {
-    return CText::CutToBuffer("<rdf:li><rdf:description about=\"#" + strReportId + "\"/></rdf:li>",
-                              ITEM_BUFFER_SIZE);
+    return "<rdf:li><rdf:description about=\"#" + strReportId + "\"/></rdf:li>";
+}
+
+std::string CutCatalogueItem(const std::string& strReportId)
+{
+    return CText::CutToBuffer(CatalogueItem(strReportId), ITEM_BUFFER_SIZE);
 }
 
 std::string CatalogueTail()

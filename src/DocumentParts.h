@@ -14,6 +14,8 @@ std::string ProcedureStart(const std::string& strProcId, const std::string& strP
 std::string CatalogueHead();
 /// \param strReportId  The id attribute of the report that the item refers to.
 std::string CatalogueItem(const std::string& strReportId);
+/// The same, cut as the buffer of the base family cuts it.
+std::string CutCatalogueItem(const std::string& strReportId);
 std::string CatalogueTail();
 std::string ContentsStart();
 std::string ContentsEnd();

@@ -48,6 +48,90 @@ public:
                                       const char* szTetsuzuki);
     /// Saves a text as a Shift_JIS file. \param szData  Taken as Shift_JIS bytes, not as UTF-8.
     KZCConvertResultEka* CsvWrite(const char* szCsvPath, const char* szData);
+    KZCConvertResultEka* CsvCheckFinance(const char* szCsvPathName);
+    KZCConvertResultEka* CsvConvMokFinance(const char* szCsvPathName,
+                                           const char* szMokPathName,
+                                           const char* szZeimushoCD,
+                                           const char* szNozeishaId,
+                                           const char* szKojinBango,
+                                           const char* szHojinBango,
+                                           const char* szNozeishaNm,
+                                           const char* szNozeishaAdr,
+                                           const char* szDaihyoNm,
+                                           const char* szDairiId,
+                                           const char* szDairiNm,
+                                           const char* szDairiAdr,
+                                           const char* szTetsuzuki,
+                                           const char* szTeishutsuEra,
+                                           const char* szTeishutsuYear,
+                                           const char* szTeishutsuMonth,
+                                           const char* szTeishutsuDay,
+                                           const char* szSoftName,
+                                           const char* szNozeishaZip1,
+                                           const char* szNozeishaZip2);
+    KZCConvertResultEka* ELCsvCheckFinance(const char* szCsvPathName, long lCsvDistKey);
+    KZCConvertResultEka* ELCsvConvMokFinance(long lCsvDistKey,
+                                             const char* szZeimushoCD,
+                                             const char* szNozeishaId,
+                                             const char* szKojinBango,
+                                             const char* szHojinBango,
+                                             const char* szNozeishaNm,
+                                             const char* szNozeishaAdr,
+                                             const char* szDaihyoNm,
+                                             const char* szDairiId,
+                                             const char* szDairiNm,
+                                             const char* szDairiAdr,
+                                             const char* szTetsuzuki,
+                                             const char* szTeishutsuEra,
+                                             const char* szTeishutsuYear,
+                                             const char* szTeishutsuMonth,
+                                             const char* szTeishutsuDay,
+                                             const char* szSoftName,
+                                             const char* szNozeishaZip1,
+                                             const char* szNozeishaZip2);
+
+    KZCConvertResultEka* CsvCheckCrossBorder(const char* szCsvPathName);
+    KZCConvertResultEka* CsvConvMokCrossBorder(const char* szCsvPathName,
+                                               const char* szMokPathName,
+                                               const char* szZeimushoCD,
+                                               const char* szTeishutsuEra,
+                                               const char* szTeishutsuYear,
+                                               const char* szTeishutsuMonth,
+                                               const char* szTeishutsuDay,
+                                               const char* szNozeishaId,
+                                               const char* szKojinBango,
+                                               const char* szHojinBango,
+                                               const char* szNozeishaNm,
+                                               const char* szNozeishaZip1,
+                                               const char* szNozeishaZip2,
+                                               const char* szNozeishaAdr,
+                                               const char* szDaihyoNm,
+                                               const char* szDairiId,
+                                               const char* szDairiNm,
+                                               const char* szDairiAdr,
+                                               const char* szTetsuzuki,
+                                               const char* szSoftName);
+    KZCConvertResultEka* ELCsvCheckCrossBorder(const char* szCsvPathName, long lCsvDistKey);
+    KZCConvertResultEka* ELCsvConvMokCrossBorder(long lCsvDistKey,
+                                                 const char* szZeimushoCD,
+                                                 const char* szTeishutsuEra,
+                                                 const char* szTeishutsuYear,
+                                                 const char* szTeishutsuMonth,
+                                                 const char* szTeishutsuDay,
+                                                 const char* szNozeishaId,
+                                                 const char* szKojinBango,
+                                                 const char* szHojinBango,
+                                                 const char* szNozeishaNm,
+                                                 const char* szNozeishaZip1,
+                                                 const char* szNozeishaZip2,
+                                                 const char* szNozeishaAdr,
+                                                 const char* szDaihyoNm,
+                                                 const char* szDairiId,
+                                                 const char* szDairiNm,
+                                                 const char* szDairiAdr,
+                                                 const char* szTetsuzuki,
+                                                 const char* szSoftName);
+
     /// The host's final call.
     void Terminate();
 
@@ -57,6 +141,9 @@ public:
     static void OutputIF(const char* szValue, const char* szLabel);
 
 private:
+    /// The result record, emptied; null if it can't be made.
+    static KZCConvertResultEka* StartRecord();
+
     static inline std::unique_ptr<KZCConvertResultEka> m_pResult;
 
     XercesSession m_session;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <type_traits>
 
 #include "CText.h"
 #include "Fault.h"
@@ -28,20 +27,6 @@ constexpr bool EndsColumn(char cByte)
     return cByte == ',' || cByte == '\n' || cByte == '\r';
 }
 
-/// Records an error of the file as a whole. \return STATUS_NG.
-template <class Value>
-int RejectFile(
-    KZCEkaMessage_t eMessage, long lColumn, const char* szFunction, const char* szLog, Value value)
-{
-    KZCValidResult::instance()->SetResult(eMessage, 0, lColumn, SINGLE_COLUMN);
-    KZCDebugDump::Log(szFunction, szLog);
-    if constexpr (std::is_integral_v<Value>)
-        KZCDebugDump::OutputValid(eMessage, 0, lColumn, static_cast<long>(value));
-    else
-        KZCDebugDump::OutputValid(eMessage, 0, lColumn, value, !KZCEkaCommon::GetCsvCheckFlag());
-    return STATUS_NG;
-}
-
 }  // namespace
 
 std::int64_t KZCEkaCsvFile::GetNonCRLFRecordCount() const
@@ -54,16 +39,11 @@ int KZCEkaCsvFile::ReadFile(const std::string& strPath)
 {
     constexpr const char* FUNCTION = "KZCEkaCsvFile::ReadFile";
     try {
-        Clear();
-        const std::string strText =
-            KZCMacOSNative::readSJISFile(strPath.c_str(), !KZCEkaCommon::GetCsvCheckFlag());
-        if (strText.empty())
-            RaiseFault(FUNCTION, "CSVファイルリードエラーが発生しました。");
-        if (Parse(strText.c_str(), false) != STATUS_OK || CheckRecordCount() != STATUS_OK)
+        if (ReadAndParse(strPath, false, FUNCTION) != STATUS_OK || CheckRecordCount() != STATUS_OK)
             return STATUS_NG;
         if (m_strTypeId.empty())
-            return RejectFile(HE70024E, 0, FUNCTION,
-                              "CSVデータに有効なレコードが存在しません。（HE70024E）", "");
+            return Refuse(HE70024E, 0, 0, FUNCTION,
+                          "CSVデータに有効なレコードが存在しません。（HE70024E）", "");
         for (std::int64_t nRecord = 0; nRecord < GetRecordCount(); ++nRecord)
             checkGeneration(nRecord);
         return STATUS_OK;
@@ -79,8 +59,8 @@ int KZCEkaCsvFile::CheckRecordCount() const
     const bool bOnlyClosingBlank = nCount == MAX_RECORDS + 1 && IsBlank(m_vecRecord.back());
     if (nCount <= MAX_RECORDS || bOnlyClosingBlank)
         return STATUS_OK;
-    return RejectFile(HE70020E, 0, "KZCEkaCsvFile::ReadFile",
-                      "CSVレコードの総件数エラーです。（HE70020E）", nCount);
+    return Refuse(HE70020E, 0, 0, "KZCEkaCsvFile::ReadFile",
+                  "CSVレコードの総件数エラーです。（HE70020E）", nCount);
 }
 
 bool KZCEkaCsvFile::IsValidRecord(long lRecord) const
@@ -118,17 +98,54 @@ void KZCEkaCsvFile::Clear()
 
 int KZCEkaCsvFile::ColumnTerm(std::string& strBuffer, Record& record, bool bEndOfRecord)
 {
-    record.push_back(KZCEkaCommon::StringTrim(strBuffer));
-    strBuffer.clear();
+    TakeColumn(strBuffer, record);
     if (!bEndOfRecord)
         return STATUS_OK;
     if (!ValidateRecord(record))
         return STATUS_NG;
+    StoreRecord(record);
+    return STATUS_OK;
+}
+
+void KZCEkaCsvFile::TakeColumn(std::string& strBuffer, Record& record)
+{
+    record.push_back(KZCEkaCommon::StringTrim(strBuffer));
+    strBuffer.clear();
+}
+
+void KZCEkaCsvFile::StoreRecord(Record& record)
+{
     const std::size_t nColumns = record.size();
     m_vecRecord.push_back(std::move(record));
     record.clear();
     record.reserve(nColumns);
-    return STATUS_OK;
+}
+
+int KZCEkaCsvFile::Refuse(KZCEkaMessage_t eMessage,
+                          long lRecord,
+                          long lColumn,
+                          const char* szFunction,
+                          const char* szLog,
+                          const char* szValue)
+{
+    KZCValidResult::instance()->SetResult(eMessage, lRecord, lColumn, SINGLE_COLUMN);
+    KZCDebugDump::Log(szFunction, szLog);
+    KZCDebugDump::OutputValid(eMessage, lRecord, lColumn, szValue,
+                              !KZCEkaCommon::GetCsvCheckFlag());
+    return STATUS_NG;
+}
+
+int KZCEkaCsvFile::Refuse(KZCEkaMessage_t eMessage,
+                          long lRecord,
+                          long lColumn,
+                          const char* szFunction,
+                          const char* szLog,
+                          long lValue)
+{
+    KZCValidResult::instance()->SetResult(eMessage, lRecord, lColumn, SINGLE_COLUMN);
+    KZCDebugDump::Log(szFunction, szLog);
+    KZCDebugDump::OutputValid(eMessage, lRecord, lColumn, lValue);
+    return STATUS_NG;
 }
 
 bool KZCEkaCsvFile::ValidateRecord(const Record& record)
@@ -139,18 +156,17 @@ bool KZCEkaCsvFile::ValidateRecord(const Record& record)
         return true;
     if (m_strTypeId.empty()) {
         if (!FindTypeId(strTypeId))
-            return RejectFile(HE70021E, 1, FUNCTION,
-                              "定義体から対応する申請番号種別が見つかりません（HE70021E）",
-                              strTypeId.c_str()) == STATUS_OK;
-    } else if (strTypeId != m_strTypeId) {
-        return RejectFile(HE70021E, 1, FUNCTION,
-                          "CSV内で申請番号が統一されていません。（HE70021E）",
+            return Refuse(HE70021E, 0, 1, FUNCTION,
+                          "定義体から対応する申請番号種別が見つかりません（HE70021E）",
                           strTypeId.c_str()) == STATUS_OK;
+    } else if (strTypeId != m_strTypeId) {
+        return Refuse(HE70021E, 0, 1, FUNCTION, "CSV内で申請番号が統一されていません。（HE70021E）",
+                      strTypeId.c_str()) == STATUS_OK;
     }
     if (static_cast<std::int64_t>(record.size()) == m_nColumnNum)
         return true;
-    return RejectFile(HE70019E, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）",
-                      record.size()) == STATUS_OK;
+    return Refuse(HE70019E, 0, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）",
+                  static_cast<long>(record.size())) == STATUS_OK;
 }
 
 /// Takes the type id and its column count from the definition index. False if it isn't there.
@@ -168,6 +184,16 @@ bool KZCEkaCsvFile::FindTypeId(const std::string& strTypeId)
         return true;
     }
     return false;
+}
+
+int KZCEkaCsvFile::ReadAndParse(const std::string& strPath, bool bQuote, const char* szFunction)
+{
+    Clear();
+    const std::string strText =
+        KZCMacOSNative::readSJISFile(strPath.c_str(), !KZCEkaCommon::GetCsvCheckFlag());
+    if (strText.empty())
+        RaiseFault(szFunction, "CSVファイルリードエラーが発生しました。");
+    return Parse(strText.c_str(), bQuote);
 }
 
 int KZCEkaCsvFile::Parse(const char* szText, bool bQuote)

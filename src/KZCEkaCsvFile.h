@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "EkaMsgTable.h"
+
 /// Cells are Shift_JIS while a check runs and UTF-8 otherwise. Texts handed out stay valid until
 /// the next change of the file.
 class KZCEkaCsvFile
@@ -55,6 +57,27 @@ public:
     bool preCheckNumber(long lRecord, long lColumn) const;
 
 protected:
+    /// Reads a file anew and splits it. \return what Parse returned. Throws FAULT if it can't be
+    /// read.
+    int ReadAndParse(const std::string& strPath, bool bQuote, const char* szFunction);
+    /// Ends a column: its trimmed text goes to the record.
+    static void TakeColumn(std::string& strBuffer, Record& record);
+    /// Stores a record and leaves an empty one of the same capacity.
+    void StoreRecord(Record& record);
+    /// Records an error of the structure and logs it. \return STATUS_NG.
+    static int Refuse(KZCEkaMessage_t eMessage,
+                      long lRecord,
+                      long lColumn,
+                      const char* szFunction,
+                      const char* szLog,
+                      const char* szValue);
+    static int Refuse(KZCEkaMessage_t eMessage,
+                      long lRecord,
+                      long lColumn,
+                      const char* szFunction,
+                      const char* szLog,
+                      long lValue);
+
     std::map<std::int64_t, std::string> m_mapGeneration;
     std::string m_strTypeId;
     std::int64_t m_nColumnNum = 0;

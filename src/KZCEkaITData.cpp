@@ -1,36 +1,16 @@
 #include "KZCEkaITData.h"
 
-#include <array>
 #include <string_view>
 
 #include "CText.h"
 #include "Fault.h"
+#include "ITDataTables.h"
 #include "KZCEkaCommon.h"
 #include "KZCValidResult.h"
 
 namespace {
 
 constexpr std::size_t TAG_BUFFER_SIZE = 100;
-constexpr long NO_ARGUMENT = -1;
-
-constexpr std::array<ITDataRow, 16> ITDataTable = {{
-    {nullptr, nullptr, nullptr, ARG_NONE, NO_ARGUMENT, NO_ARGUMENT},
-    {"ZEIMUSHO", "ZEIMUSHO", nullptr, ARG_NONE, NO_ARGUMENT, NO_ARGUMENT},
-    {"ZEIMUSHO", nullptr, "gen:zeimusho_CD", ARG_ZEIMUSHO_CD, 3, 2},
-    {"NOZEISHA_ID", "NOZEISHA_ID", nullptr, ARG_NOZEISHA_ID, 4, 3},
-    {"NOZEISHA_BANGO", "NOZEISHA_BANGO", nullptr, ARG_NONE, NO_ARGUMENT, NO_ARGUMENT},
-    {"NOZEISHA_BANGO", nullptr, "gen:kojinbango", ARG_KOJINBANGO, 5, 4},
-    {"NOZEISHA_BANGO", nullptr, "gen:hojinbango", ARG_HOJINBANGO, 6, 5},
-    {"NOZEISHA_NM", "NOZEISHA_NM", nullptr, ARG_NOZEISHA_NM, 7, 6},
-    {"NOZEISHA_ADR", "NOZEISHA_ADR", nullptr, ARG_NOZEISHA_ADR, 8, 7},
-    {"DAIHYO_NM", "DAIHYO_NM", nullptr, ARG_DAIHYO_NM, 9, 8},
-    {"DAIRI_ID", "DAIRI_ID", nullptr, ARG_DAIRI_ID, 10, 9},
-    {"DAIRI_NM", "DAIRI_NM", nullptr, ARG_DAIRI_NM, 11, 10},
-    {"DAIRI_ADR", "DAIRI_ADR", nullptr, ARG_DAIRI_ADR, 12, 11},
-    {"TETSUZUKI", "TETSUZUKI", nullptr, ARG_NONE, NO_ARGUMENT, NO_ARGUMENT},
-    {"TETSUZUKI", nullptr, "procedure_CD", ARG_PROCEDURE_CD, 13, 12},
-    {nullptr, nullptr, nullptr, ARG_SOFT_NAME, 14, NO_ARGUMENT},
-}};
 
 bool SameGroup(const ITDataRow& first, const ITDataRow& second)
 {

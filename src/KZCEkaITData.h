@@ -6,7 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "validator/KZCArgValid.h"
 #include "validator/KZCEkaValidator.h"
 
 /// Field ids of the base family; the value is the row in its table.
@@ -30,16 +29,7 @@ enum KZCEkaITData_t : int
     IT_SOFT_NAME,
 };
 
-/// One field of the IT section as its family's table has it.
-struct ITDataRow
-{
-    const char* szGroup;     ///< tag of the element that the row belongs to, or null
-    const char* szOwnTag;    ///< tag of the element that the row opens, or null for a child
-    const char* szChildTag;  ///< tag inside the group, or null
-    KZCArgValid_t eCheck;    ///< 0 for a row without a check
-    long lPublicColumn;      ///< argument number on the plain path, or -1
-    long lPrivateColumn;     ///< argument number on the EL path, or -1
-};
+struct ITDataRow;
 
 /// One value and its checks.
 struct KZCDataValid_t

@@ -4,6 +4,7 @@
 
 #include "CText.h"
 #include "DocumentParts.h"
+#include "FamilyTraits.h"
 #include "Fault.h"
 #include "KZCConvertInfo.h"
 #include "KZCDebugDump.h"
@@ -21,27 +22,6 @@ constexpr long MOK_PATH_ARGUMENT = 2;
 /// The key is the second argument of a check and the first of a conversion.
 constexpr long CHECK_KEY_ARGUMENT = 2;
 constexpr long CONVERSION_KEY_ARGUMENT = 1;
-/// Argument number of the procedure id on the EL path; one more on the plain path.
-constexpr long PROCEDURE_ARGUMENT = 12;
-
-/// A fault of a step: everything found before gives way to the one fatal error.
-int RecordFatalError(const char* szFunction)
-{
-    KZCValidResult::instance()->SetFatalError();
-    KZCDebugDump::Log(szFunction, UNEXPECTED_ERROR);
-    return STATUS_NG;
-}
-
-/// Runs a step of the request; whatever it throws becomes the fatal error.
-template <class Step>
-int RunStep(const char* szFunction, Step step)
-{
-    try {
-        return step();
-    } catch (...) {
-        return RecordFatalError(szFunction);
-    }
-}
 
 /// Runs the argument checks of a type on a value. \return what the checks returned.
 int CheckArgument(KZCEkaValidator& validator,
@@ -62,11 +42,12 @@ std::string TrimPath(const char* szPath)
 int RefuseDocument(KZCEkaMessage_t eMessage,
                    long lRecord,
                    long lColumn,
+                   const std::string& strFunction,
                    const char* szMessage,
                    const char* szValue)
 {
     KZCValidResult::instance()->SetResult(eMessage, lRecord, lColumn, SINGLE_COLUMN);
-    KZCDebugDump::Log("KZCEkaMOKManager::MakeMok", szMessage);
+    KZCDebugDump::Log(strFunction.c_str(), szMessage);
     KZCDebugDump::OutputValid(eMessage, lRecord, lColumn, szValue, true);
     return STATUS_NG;
 }
@@ -82,13 +63,14 @@ KZCEkaMOKManager::~KZCEkaMOKManager()
 int KZCEkaMOKManager::InitForCheck(bool bPublic, const char* szCsvPathName, long lCsvDistKey)
 {
     KZCValidResult::instance()->ClearResult();
-    return RunStep("KZCEkaMOKManager::InitForCheck", [&] {
+    return RunStep("InitForCheck", [&] {
         KZCEkaValidator validator;
         KZCEkaTaxOffices::instance()->Initialize();
         const std::string strPath = TrimPath(szCsvPathName);
         CheckArgument(validator, ARG_CSV_PATH, strPath, CSV_PATH_ARGUMENT);
         if (!bPublic)
-            CheckArgument(validator, KeyCheck(), std::to_string(lCsvDistKey), CHECK_KEY_ARGUMENT);
+            CheckArgument(validator, Traits().eKeyCheck, std::to_string(lCsvDistKey),
+                          CHECK_KEY_ARGUMENT);
         if (!KZCValidResult::instance()->IsEmpty())
             return STATUS_NG;
         m_lCsvDistKey = lCsvDistKey;
@@ -103,10 +85,10 @@ int KZCEkaMOKManager::InitForMok(bool bPublic,
                                  long lCsvDistKey)
 {
     KZCValidResult::instance()->ClearResult();
-    return RunStep("KZCEkaMOKManager::InitForMok", [&] {
+    return RunStep("InitForMok", [&] {
         KZCEkaValidator validator;
         KZCEkaTaxOffices::instance()->Initialize();
-        KZCConvertInfo::instance()->GetITData(lCsvDistKey)->Initialize(bPublic);
+        Store()->GetITData(lCsvDistKey)->Initialize(bPublic);
         const std::string strCsvPath = TrimPath(szCsvPathName);
         const std::string strMokPath = TrimPath(szMokPathName);
         if (bPublic) {
@@ -123,77 +105,95 @@ int KZCEkaMOKManager::InitForMok(bool bPublic,
 }
 
 /// The key is within its limits and holds records.
-void KZCEkaMOKManager::CheckKeptFile(KZCEkaValidator& validator, long lCsvDistKey)
+void KZCEkaMOKManager::CheckKeptFile(KZCEkaValidator& validator, long lCsvDistKey) const
 {
-    const int nStatus =
-        CheckArgument(validator, KeyCheck(), std::to_string(lCsvDistKey), CONVERSION_KEY_ARGUMENT);
-    if (nStatus == STATUS_NG ||
-        KZCConvertInfo::instance()->GetCsvFile(lCsvDistKey)->GetRecordCount() != 0)
+    const int nStatus = CheckArgument(validator, Traits().eKeyCheck, std::to_string(lCsvDistKey),
+                                      CONVERSION_KEY_ARGUMENT);
+    if (nStatus == STATUS_NG || Store()->GetCsvFile(lCsvDistKey)->GetRecordCount() != 0)
         return;
     KZCValidResult::instance()->SetResult(HE70013E, ARGUMENT_RECORD, CONVERSION_KEY_ARGUMENT,
                                           SINGLE_COLUMN);
-    KZCDebugDump::Log("KZCEkaMOKManager::InitForMok",
+    KZCDebugDump::Log(LogName("InitForMok").c_str(),
                       "指定された識別キーのCSVデータが存在しません。（HE70013E）");
     KZCDebugDump::OutputValid(HE70013E, ARGUMENT_RECORD, CONVERSION_KEY_ARGUMENT, "", true);
 }
 
 int KZCEkaMOKManager::LoadCsvWithDefinition(bool bIsCheck)
 {
-    return RunStep("KZCEkaMOKManager::LoadCsvWithDefinition", [&] {
-        KZCConvertInfo* pStore = KZCConvertInfo::instance();
-        KZCEkaCsvFile* pCsv = pStore->GetCsvFile(m_lCsvDistKey);
-        if (const int nStatus = pCsv->ReadFile(m_strCsvPathName); nStatus != 0)
+    return RunStep("LoadCsvWithDefinition", [&] {
+        if (const int nStatus = ReadCsvFile(); nStatus != STATUS_OK)
             return nStatus;
-        if (pStore->GetDefinition(m_lCsvDistKey)->CreateDefinition(pCsv->GetTypeId(), bIsCheck) !=
-            STATUS_OK)
-            throw FAULT;
+        LoadDefinition(bIsCheck);
         return STATUS_OK;
     });
 }
 
+KZCEkaITData& KZCEkaMOKManager::ITData() const
+{
+    return *Store()->GetITData(m_lCsvDistKey);
+}
+
+const KZCEkaCsvFile& KZCEkaMOKManager::CsvFile() const
+{
+    return *Store()->GetCsvFile(m_lCsvDistKey);
+}
+
+int KZCEkaMOKManager::ReadCsvFile() const
+{
+    return Store()->GetCsvFile(m_lCsvDistKey)->ReadFile(m_strCsvPathName);
+}
+
+void KZCEkaMOKManager::LoadDefinition(bool bIsCheck) const
+{
+    const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
+    if (table.pDefinition->CreateDefinition(table.pCsvFile->GetTypeId(), bIsCheck) != STATUS_OK)
+        throw FAULT;
+}
+
 int KZCEkaMOKManager::ValidateCsv()
 {
-    return RunStep("KZCEkaMOKManager::ValidateCsv", [this] {
-        const _ConvertTable table = KZCConvertInfo::instance()->GetConvertTable(m_lCsvDistKey);
+    return RunStep("ValidateCsv", [this] {
+        const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
         return table.pDefinition->ValidateCsv(table.pCsvFile) == 0 ? STATUS_OK : STATUS_NG;
     });
 }
 
 int KZCEkaMOKManager::MakeMok()
 {
-    constexpr const char* FUNCTION = "KZCEkaMOKManager::MakeMok";
+    const std::string strFunction = MakeMokName();
     try {
-        const _ConvertTable table = KZCConvertInfo::instance()->GetConvertTable(m_lCsvDistKey);
-        const std::string strProcedure = table.pITData->GetITData(IT_PROCEDURE_CD);
+        const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
+        const std::string strProcedure = HostProcedure(*table.pITData);
         if (strProcedure != table.pDefinition->GetProcId())
             return RefuseDocument(HE70010E, ARGUMENT_RECORD,
-                                  (table.pITData->IsPublic() ? 1 : 0) | PROCEDURE_ARGUMENT,
-                                  "引数の手続きIDが不正です。（HE70010E）", strProcedure.c_str());
+                                  (table.pITData->IsPublic() ? 1 : 0) | Traits().lProcedureArgument,
+                                  MismatchName(), "引数の手続きIDが不正です。（HE70010E）",
+                                  strProcedure.c_str());
         table.pCsvFile->DeleteEmptyRecord();
         m_pXDom = std::make_unique<KZCEkaXDOM>();
         if (!m_pXDom->Initialize())
             throw FAULT;
-        if (!m_pXDom->Parse(MakeDocumentText().c_str(), DOCUMENT_NAME, "UTF-8"))
-            RaiseFault(FUNCTION, "MOKファイルの読み込みに失敗。");
+        if (!m_pXDom->Parse(MakeDocumentText(table).c_str(), DocumentName(*table.pITData).c_str(),
+                            "UTF-8"))
+            RaiseFault(strFunction.c_str(), "MOKファイルの読み込みに失敗。");
         const long lSize = m_pXDom->GetSerialisedSize();
         if (lSize < 0)
-            RaiseFault(FUNCTION, "MOKファイルの保存に失敗。");
+            RaiseFault(strFunction.c_str(), "MOKファイルの保存に失敗。");
         if (lSize <= MAX_DOCUMENT_SIZE)
             return STATUS_OK;
         KZCValidResult::instance()->SetResult(HE70023E, 0, 0, SINGLE_COLUMN);
-        KZCDebugDump::Log(FUNCTION, "MOKファイルが10MBを超えています。（HE70023E）");
+        KZCDebugDump::Log(strFunction.c_str(), "MOKファイルが10MBを超えています。（HE70023E）");
         KZCDebugDump::OutputValid(HE70023E, 0, 0, lSize);
         return STATUS_NG;
     } catch (...) {
-        return RefuseDocument(
-            HE70016E, 0, 0, "想定外の事象によりMOKファイルの作成に失敗しました。（HE70016E）", "");
+        return RefuseDocument(HE70016E, 0, 0, strFunction,
+                              "想定外の事象によりMOKファイルの作成に失敗しました。（HE70016E）",
+                              "");
     }
 }
 
-/// The document as it is assembled, before the XML library has seen it.
-std::string KZCEkaMOKManager::MakeDocumentText() const
+std::string KZCEkaMOKManager::MakeDocumentText(const _ConvertTable& table) const
 {
-    const _ConvertTable table = KZCConvertInfo::instance()->GetConvertTable(m_lCsvDistKey);
     const KZCEkaDefinition& definition = *table.pDefinition;
     std::string strText =
         DocumentParts::Declaration() + DocumentParts::RootStart() +
@@ -201,8 +201,8 @@ std::string KZCEkaMOKManager::MakeDocumentText() const
     // One item a record, even if the record turns out to have no report.
     strText += DocumentParts::CatalogueHead();
     for (std::int64_t nNumber = 1; nNumber <= table.pCsvFile->GetRecordCount(); ++nNumber)
-        strText += DocumentParts::CatalogueItem(std::string(definition.GetReportId()) + "-" +
-                                                std::to_string(nNumber));
+        strText += DocumentParts::CutCatalogueItem(std::string(definition.GetReportId()) + "-" +
+                                                   std::to_string(nNumber));
     strText += DocumentParts::CatalogueTail();
     strText += DocumentParts::ContentsStart();
     strText += table.pITData->GetXml();
@@ -216,12 +216,12 @@ int KZCEkaMOKManager::SaveMok()
 {
     if (m_pXDom && m_pXDom->Save(m_strMokPathName.c_str()) == STATUS_OK)
         return STATUS_OK;
-    return RecordFatalError("KZCEkaMOKManager::SaveMok");
+    return RecordFatalError("SaveMok");
 }
 
 int KZCEkaMOKManager::GetMok(std::string& strOut)
 {
-    return RunStep("KZCEkaMOKManager::GetMok", [&] {
+    return RunStep("GetMok", [&] {
         std::string strText;
         if (!m_pXDom || m_pXDom->SaveXml(strText) != STATUS_OK)
             throw FAULT;
@@ -232,26 +232,31 @@ int KZCEkaMOKManager::GetMok(std::string& strOut)
 
 int KZCEkaMOKManager::SetITData(KZCEkaITData_t eId, const char* szValue)
 {
+    return StoreITValue("SetITData", szValue,
+                        [&](const char* szTrimmed) { return ITData().SetITData(eId, szTrimmed); });
+}
+
+int KZCEkaMOKManager::StoreITValue(const char* szOperation,
+                                   const char* szValue,
+                                   const std::function<int(const char*)>& store) const
+{
     try {
         const std::string strValue =
             szValue != nullptr ? KZCEkaCommon::StringTrim(szValue) : std::string();
-        return KZCConvertInfo::instance()
-            ->GetITData(m_lCsvDistKey)
-            ->SetITData(eId, strValue.c_str());
+        return store(strValue.c_str());
     } catch (...) {
-        RaiseFault("KZCEkaMOKManager::SetITData", nullptr);
+        RaiseFault(LogName(szOperation).c_str(), nullptr);
     }
 }
 
 std::string KZCEkaMOKManager::GetProcID()
 {
-    return KZCConvertInfo::instance()->GetDefinition(m_lCsvDistKey)->GetProcId();
+    return Store()->GetDefinition(m_lCsvDistKey)->GetProcId();
 }
 
 std::string KZCEkaMOKManager::GetRecodeCount()
 {
-    return std::to_string(
-        KZCConvertInfo::instance()->GetCsvFile(m_lCsvDistKey)->GetNonCRLFRecordCount());
+    return std::to_string(CsvFile().GetNonCRLFRecordCount());
 }
 
 bool KZCEkaMOKManager::HasErrorMsg()
@@ -259,7 +264,7 @@ bool KZCEkaMOKManager::HasErrorMsg()
     try {
         return !KZCValidResult::instance()->IsEmpty();
     } catch (...) {
-        RecordFatalError("KZCEkaMOKManager::HasErrorMsg");
+        RecordFatalError("HasErrorMsg");
         return true;
     }
 }
@@ -278,6 +283,7 @@ void KZCEkaMOKManager::Terminate(bool bDestroyResult, bool bDestroyStore, bool b
         KZCEkaTaxOffices::destroy();
         return;
     }
+    // By the base accessor, whatever the family: without a store this makes a base one. Wanted.
     if (bClearKey)
         KZCConvertInfo::instance()->ClearInfo(m_lCsvDistKey);
 }
@@ -291,14 +297,63 @@ void KZCEkaMOKManager::ReloadCsvFile(long lCsvDistKey, const char* szPath)
 void KZCEkaMOKManager::TerminateDifferentData()
 {
     const KZCConvertInfo& store = *KZCConvertInfo::instance();
-    if (typeid(store) == typeid(KZCConvertInfo))
-        return;
-    KZCValidResult::destroy();
-    KZCConvertInfo::destroy();
-    KZCEkaTaxOffices::destroy();
+    if (typeid(store) != typeid(KZCConvertInfo))
+        TerminateAll();
 }
 
-KZCArgValid_t KZCEkaMOKManager::KeyCheck() const
+const FamilyTraits& KZCEkaMOKManager::Traits() const
 {
-    return ARG_KEY;
+    return BASE_FAMILY;
+}
+
+const char* KZCEkaMOKManager::ClassName() const
+{
+    return "KZCEkaMOKManager";
+}
+
+std::string KZCEkaMOKManager::MismatchName() const
+{
+    return MakeMokName();
+}
+
+std::string KZCEkaMOKManager::MakeMokName() const
+{
+    return LogName("MakeMok");
+}
+
+KZCConvertInfo* KZCEkaMOKManager::Store() const
+{
+    return KZCConvertInfo::instance();
+}
+
+std::string KZCEkaMOKManager::HostProcedure(const KZCEkaITData& it) const
+{
+    return it.GetITData(IT_PROCEDURE_CD);
+}
+
+std::string KZCEkaMOKManager::DocumentName(const KZCEkaITData& /*it*/) const
+{
+    return DOCUMENT_NAME;
+}
+
+int KZCEkaMOKManager::RunStep(const char* szOperation, const std::function<int()>& step) const
+{
+    try {
+        return step();
+    } catch (...) {
+        return RecordFatalError(szOperation);
+    }
+}
+
+std::string KZCEkaMOKManager::LogName(const char* szOperation) const
+{
+    return std::string(ClassName()) + "::" + szOperation;
+}
+
+/// A fault of a step: everything found before gives way to the one fatal error. \return STATUS_NG.
+int KZCEkaMOKManager::RecordFatalError(const char* szOperation) const
+{
+    KZCValidResult::instance()->SetFatalError();
+    KZCDebugDump::Log(LogName(szOperation).c_str(), UNEXPECTED_ERROR);
+    return STATUS_NG;
 }

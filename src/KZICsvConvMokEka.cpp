@@ -107,6 +107,159 @@ std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::CsvWrite(const char* szCs
                       [&](KZCCsvConvMokEka& inner) { return inner.CsvWrite(szCsvPath, szData); });
 }
 
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::CsvCheckFinance(const char* szCsvPathName)
+{
+    return RunRequest({PROC_ID, RESULT, DETAIL}, [&](KZCCsvConvMokEka& inner) {
+        return inner.CsvCheckFinance(szCsvPathName);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::CsvConvMokFinance(
+    const char* szCsvPathName,
+    const char* szMokPathName,
+    const char* szZeimushoCD,
+    const char* szNozeishaId,
+    const char* szKojinBango,
+    const char* szHojinBango,
+    const char* szNozeishaNm,
+    const char* szNozeishaAdr,
+    const char* szDaihyoNm,
+    const char* szDairiId,
+    const char* szDairiNm,
+    const char* szDairiAdr,
+    const char* szTetsuzuki,
+    const char* szTeishutsuEra,
+    const char* szTeishutsuYear,
+    const char* szTeishutsuMonth,
+    const char* szTeishutsuDay,
+    const char* szSoftName,
+    const char* szNozeishaZip1,
+    const char* szNozeishaZip2)
+{
+    return RunRequest({RESULT, DETAIL}, [&](KZCCsvConvMokEka& inner) {
+        return inner.CsvConvMokFinance(szCsvPathName, szMokPathName, szZeimushoCD, szNozeishaId,
+                                       szKojinBango, szHojinBango, szNozeishaNm, szNozeishaAdr,
+                                       szDaihyoNm, szDairiId, szDairiNm, szDairiAdr, szTetsuzuki,
+                                       szTeishutsuEra, szTeishutsuYear, szTeishutsuMonth,
+                                       szTeishutsuDay, szSoftName, szNozeishaZip1, szNozeishaZip2);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::ELCsvCheckFinance(const char* szCsvPathName,
+                                                                         std::int64_t lCsvDistKey)
+{
+    return RunRequest({PROC_ID, RECORD_COUNT, RESULT, DETAIL}, [&](KZCCsvConvMokEka& inner) {
+        return inner.ELCsvCheckFinance(szCsvPathName, lCsvDistKey);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::ELCsvConvMokFinance(
+    std::int64_t lCsvDistKey,
+    const char* szZeimushoCD,
+    const char* szNozeishaId,
+    const char* szKojinBango,
+    const char* szHojinBango,
+    const char* szNozeishaNm,
+    const char* szNozeishaAdr,
+    const char* szDaihyoNm,
+    const char* szDairiId,
+    const char* szDairiNm,
+    const char* szDairiAdr,
+    const char* szTetsuzuki,
+    const char* szTeishutsuEra,
+    const char* szTeishutsuYear,
+    const char* szTeishutsuMonth,
+    const char* szTeishutsuDay,
+    const char* szSoftName,
+    const char* szNozeishaZip1,
+    const char* szNozeishaZip2)
+{
+    return RunRequest({RESULT, DETAIL, MOK_DATA}, [&](KZCCsvConvMokEka& inner) {
+        return inner.ELCsvConvMokFinance(
+            lCsvDistKey, szZeimushoCD, szNozeishaId, szKojinBango, szHojinBango, szNozeishaNm,
+            szNozeishaAdr, szDaihyoNm, szDairiId, szDairiNm, szDairiAdr, szTetsuzuki,
+            szTeishutsuEra, szTeishutsuYear, szTeishutsuMonth, szTeishutsuDay, szSoftName,
+            szNozeishaZip1, szNozeishaZip2);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::CsvCheckCrossBorder(
+    const char* szCsvPathName)
+{
+    return RunRequest({PROC_ID, RESULT, DETAIL}, [&](KZCCsvConvMokEka& inner) {
+        return inner.CsvCheckCrossBorder(szCsvPathName);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::CsvConvMokCrossBorder(
+    const char* szCsvPathName,
+    const char* szMokPathName,
+    const char* szZeimushoCD,
+    const char* szTeishutsuEra,
+    const char* szTeishutsuYear,
+    const char* szTeishutsuMonth,
+    const char* szTeishutsuDay,
+    const char* szNozeishaId,
+    const char* szKojinBango,
+    const char* szHojinBango,
+    const char* szNozeishaNm,
+    const char* szNozeishaZip1,
+    const char* szNozeishaZip2,
+    const char* szNozeishaAdr,
+    const char* szDaihyoNm,
+    const char* szDairiId,
+    const char* szDairiNm,
+    const char* szDairiAdr,
+    const char* szTetsuzuki,
+    const char* szSoftName)
+{
+    return RunRequest({RESULT, DETAIL}, [&](KZCCsvConvMokEka& inner) {
+        return inner.CsvConvMokCrossBorder(
+            szCsvPathName, szMokPathName, szZeimushoCD, szTeishutsuEra, szTeishutsuYear,
+            szTeishutsuMonth, szTeishutsuDay, szNozeishaId, szKojinBango, szHojinBango,
+            szNozeishaNm, szNozeishaZip1, szNozeishaZip2, szNozeishaAdr, szDaihyoNm, szDairiId,
+            szDairiNm, szDairiAdr, szTetsuzuki, szSoftName);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::ELCsvCheckCrossBorder(
+    const char* szCsvPathName, std::int64_t lCsvDistKey)
+{
+    return RunRequest({PROC_ID, RECORD_COUNT, RESULT, DETAIL}, [&](KZCCsvConvMokEka& inner) {
+        return inner.ELCsvCheckCrossBorder(szCsvPathName, lCsvDistKey);
+    });
+}
+
+std::shared_ptr<KZIConvertResultEka> KZICsvConvMokEka::ELCsvConvMokCrossBorder(
+    std::int64_t lCsvDistKey,
+    const char* szZeimushoCD,
+    const char* szTeishutsuEra,
+    const char* szTeishutsuYear,
+    const char* szTeishutsuMonth,
+    const char* szTeishutsuDay,
+    const char* szNozeishaId,
+    const char* szKojinBango,
+    const char* szHojinBango,
+    const char* szNozeishaNm,
+    const char* szNozeishaZip1,
+    const char* szNozeishaZip2,
+    const char* szNozeishaAdr,
+    const char* szDaihyoNm,
+    const char* szDairiId,
+    const char* szDairiNm,
+    const char* szDairiAdr,
+    const char* szTetsuzuki,
+    const char* szSoftName)
+{
+    return RunRequest({RESULT, DETAIL, MOK_DATA}, [&](KZCCsvConvMokEka& inner) {
+        return inner.ELCsvConvMokCrossBorder(
+            lCsvDistKey, szZeimushoCD, szTeishutsuEra, szTeishutsuYear, szTeishutsuMonth,
+            szTeishutsuDay, szNozeishaId, szKojinBango, szHojinBango, szNozeishaNm, szNozeishaZip1,
+            szNozeishaZip2, szNozeishaAdr, szDaihyoNm, szDairiId, szDairiNm, szDairiAdr,
+            szTetsuzuki, szSoftName);
+    });
+}
+
 void KZICsvConvMokEka::Terminate()
 {
     try {

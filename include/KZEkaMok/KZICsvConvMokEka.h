@@ -53,8 +53,9 @@ public:
                                                     const char* szTetsuzuki,
                                                     const char* szSoftName);
 
-    /// Checks a CSV file and keeps it under a key for ELCsvConvMok. A plain request (CsvCheck,
-    /// CsvConvMok) ends all keys.
+    /// Checks a CSV file and keeps it under a key for ELCsvConvMok. Every plain request (CsvCheck,
+    /// CsvConvMok and those of the other families) and every request of another family ends all
+    /// keys.
     /// Sets ProcId, RecordCount and Result, on failure Result and DetailErrorInfo.
     /// \param lCsvDistKey  1 to 5.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheck(const char* szCsvPathName,
@@ -80,6 +81,113 @@ public:
     /// or
     ///     comes out as other characters.
     std::shared_ptr<KZIConvertResultEka> CsvWrite(const char* szCsvPath, const char* szData);
+
+    /// The same for the Finance family, whose equal errors are told once.
+    std::shared_ptr<KZIConvertResultEka> CsvCheckFinance(const char* szCsvPathName);
+
+    /// As CsvConvMok, with the day of filing and the filer's postal code.
+    /// \param szTeishutsuEra    Era of the day of filing: 1 Meiji to 5 Reiwa.
+    /// \param szTeishutsuYear   Year of the era, 1 to 99.
+    /// \param szTeishutsuMonth  1 to 12.
+    /// \param szTeishutsuDay    1 to 31.
+    /// \param szNozeishaZip1    First 3 digits of the postal code. Both parts or neither.
+    /// \param szNozeishaZip2    Last 4 digits.
+    std::shared_ptr<KZIConvertResultEka> CsvConvMokFinance(const char* szCsvPathName,
+                                                           const char* szMokPathName,
+                                                           const char* szZeimushoCD,
+                                                           const char* szNozeishaId,
+                                                           const char* szKojinBango,
+                                                           const char* szHojinBango,
+                                                           const char* szNozeishaNm,
+                                                           const char* szNozeishaAdr,
+                                                           const char* szDaihyoNm,
+                                                           const char* szDairiId,
+                                                           const char* szDairiNm,
+                                                           const char* szDairiAdr,
+                                                           const char* szTetsuzuki,
+                                                           const char* szTeishutsuEra,
+                                                           const char* szTeishutsuYear,
+                                                           const char* szTeishutsuMonth,
+                                                           const char* szTeishutsuDay,
+                                                           const char* szSoftName,
+                                                           const char* szNozeishaZip1,
+                                                           const char* szNozeishaZip2);
+
+    /// As ELCsvCheck. \param lCsvDistKey  1 to 16.
+    std::shared_ptr<KZIConvertResultEka> ELCsvCheckFinance(const char* szCsvPathName,
+                                                           std::int64_t lCsvDistKey);
+
+    /// As ELCsvConvMok, with the arguments of CsvConvMokFinance.
+    std::shared_ptr<KZIConvertResultEka> ELCsvConvMokFinance(std::int64_t lCsvDistKey,
+                                                             const char* szZeimushoCD,
+                                                             const char* szNozeishaId,
+                                                             const char* szKojinBango,
+                                                             const char* szHojinBango,
+                                                             const char* szNozeishaNm,
+                                                             const char* szNozeishaAdr,
+                                                             const char* szDaihyoNm,
+                                                             const char* szDairiId,
+                                                             const char* szDairiNm,
+                                                             const char* szDairiAdr,
+                                                             const char* szTetsuzuki,
+                                                             const char* szTeishutsuEra,
+                                                             const char* szTeishutsuYear,
+                                                             const char* szTeishutsuMonth,
+                                                             const char* szTeishutsuDay,
+                                                             const char* szSoftName,
+                                                             const char* szNozeishaZip1,
+                                                             const char* szNozeishaZip2);
+
+    /// The same for the CrossBorder family, whose values may stand in double quotes. After a fault
+    /// in CsvCheckCrossBorder and CsvConvMokCrossBorder DetailErrorInfo stays empty.
+    std::shared_ptr<KZIConvertResultEka> CsvCheckCrossBorder(const char* szCsvPathName);
+
+    /// As CsvConvMokFinance, with the arguments in another order.
+    std::shared_ptr<KZIConvertResultEka> CsvConvMokCrossBorder(const char* szCsvPathName,
+                                                               const char* szMokPathName,
+                                                               const char* szZeimushoCD,
+                                                               const char* szTeishutsuEra,
+                                                               const char* szTeishutsuYear,
+                                                               const char* szTeishutsuMonth,
+                                                               const char* szTeishutsuDay,
+                                                               const char* szNozeishaId,
+                                                               const char* szKojinBango,
+                                                               const char* szHojinBango,
+                                                               const char* szNozeishaNm,
+                                                               const char* szNozeishaZip1,
+                                                               const char* szNozeishaZip2,
+                                                               const char* szNozeishaAdr,
+                                                               const char* szDaihyoNm,
+                                                               const char* szDairiId,
+                                                               const char* szDairiNm,
+                                                               const char* szDairiAdr,
+                                                               const char* szTetsuzuki,
+                                                               const char* szSoftName);
+
+    /// As ELCsvCheck. \param lCsvDistKey  1 to 10.
+    std::shared_ptr<KZIConvertResultEka> ELCsvCheckCrossBorder(const char* szCsvPathName,
+                                                               std::int64_t lCsvDistKey);
+
+    /// As ELCsvConvMok, with the arguments of CsvConvMokCrossBorder.
+    std::shared_ptr<KZIConvertResultEka> ELCsvConvMokCrossBorder(std::int64_t lCsvDistKey,
+                                                                 const char* szZeimushoCD,
+                                                                 const char* szTeishutsuEra,
+                                                                 const char* szTeishutsuYear,
+                                                                 const char* szTeishutsuMonth,
+                                                                 const char* szTeishutsuDay,
+                                                                 const char* szNozeishaId,
+                                                                 const char* szKojinBango,
+                                                                 const char* szHojinBango,
+                                                                 const char* szNozeishaNm,
+                                                                 const char* szNozeishaZip1,
+                                                                 const char* szNozeishaZip2,
+                                                                 const char* szNozeishaAdr,
+                                                                 const char* szDaihyoNm,
+                                                                 const char* szDairiId,
+                                                                 const char* szDairiNm,
+                                                                 const char* szDairiAdr,
+                                                                 const char* szTetsuzuki,
+                                                                 const char* szSoftName);
 
     /// Ends all keys and frees what the library holds. The host's final call; it may be repeated.
     void Terminate();

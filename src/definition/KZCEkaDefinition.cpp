@@ -6,22 +6,12 @@
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaXDOM.h"
+#include "definition/RunOnDefinition.h"
 
 namespace {
 
 constexpr unsigned short DEFINITION_INDEX_ID = 202;
 constexpr std::size_t MESSAGE_BUFFER_SIZE = 100;
-
-/// Runs a step over a loaded definition; whatever it throws is logged and becomes FAULT.
-template <class Step>
-auto RunOnDefinition(const char* szFunction, Step step)
-{
-    try {
-        return step();
-    } catch (...) {
-        RaiseFault(szFunction, UNEXPECTED_ERROR);
-    }
-}
 
 }  // namespace
 

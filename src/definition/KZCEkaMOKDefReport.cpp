@@ -1,5 +1,7 @@
 #include "KZCEkaMOKDefReport.h"
 
+#include <utility>
+
 #include "CText.h"
 #include "Fault.h"
 #include "KZCEkaCommon.h"
@@ -21,13 +23,25 @@ std::string KZCEkaMOKDefReport::WriteNode(const KZCEkaCsvFile* pCsv, long lRow, 
         strBody += pChild->WriteNode(pCsv, lRow);
     if (strBody.empty())
         return {};
-    const std::string strNumber = std::to_string(lRow + 1);
-    const std::string strStart =
-        "<" + m_strName + " VR=\"" + m_strVR + "\" id=\"" + m_strName + "-" + strNumber +
-        "\" page=\"" + strNumber + "\" sakuseiDay=\"" +
-        KZCEkaCommon::Now("yyyy'-'MM'-'dd", nullptr) + "\" sakuseiNM=\"" +
-        KZCEkaCommon::SpecialEncoding(pIT->GetITData(IT_NOZEISHA_NM)) + "\" softNM=\"" +
-        KZCEkaCommon::SpecialEncoding(pIT->GetITData(IT_SOFT_NAME)) + "\">";
-    return CText::CutToBuffer(strStart, REPORT_TAG_BUFFER_SIZE) + strBody +
-           CText::CutToBuffer("</" + m_strName + ">", REPORT_TAG_BUFFER_SIZE);
+    return StartTag(lRow + 1, lRow + 1, pIT->GetITData(IT_NOZEISHA_NM),
+                    pIT->GetITData(IT_SOFT_NAME)) +
+           strBody + EndTag();
+}
+
+std::string KZCEkaMOKDefReport::StartTag(std::int64_t nNumber,
+                                         std::int64_t nPage,
+                                         const char* szMaker,
+                                         const char* szSoftware) const
+{
+    std::string strTag = "<" + m_strName + " VR=\"" + m_strVR + "\" id=\"" + m_strName + "-" +
+                         std::to_string(nNumber) + "\" page=\"" + std::to_string(nPage) +
+                         "\" sakuseiDay=\"" + KZCEkaCommon::Now("yyyy'-'MM'-'dd", nullptr) +
+                         "\" sakuseiNM=\"" + KZCEkaCommon::SpecialEncoding(szMaker) +
+                         "\" softNM=\"" + KZCEkaCommon::SpecialEncoding(szSoftware) + "\">";
+    return CText::CutToBuffer(std::move(strTag), REPORT_TAG_BUFFER_SIZE);
+}
+
+std::string KZCEkaMOKDefReport::EndTag() const
+{
+    return CText::CutToBuffer("</" + m_strName + ">", REPORT_TAG_BUFFER_SIZE);
 }

@@ -1,6 +1,7 @@
 // The root of a definition tree: one report element for each record.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "KZCEkaMOKDefineNode.h"
@@ -21,5 +22,13 @@ public:
     std::string WriteNode(const KZCEkaCsvFile* pCsv, long lRow, KZCEkaITData* pIT);
 
 protected:
+    /// The start tag of a report element, cut as its buffer cuts it. It carries today's date.
+    /// \param nNumber  Running number of the element's id. \param szMaker, szSoftware  Not escaped.
+    std::string StartTag(std::int64_t nNumber,
+                         std::int64_t nPage,
+                         const char* szMaker,
+                         const char* szSoftware) const;
+    std::string EndTag() const;
+
     std::string m_strVR;
 };

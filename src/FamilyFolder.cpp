@@ -1,0 +1,36 @@
+#include "FamilyFolder.h"
+
+#include "Fault.h"
+#include "KZCEkaCommon.h"
+#include "KZCMacOSNative.h"
+
+namespace FamilyFolder {
+
+namespace {
+
+const char* FolderName(CALL_TYPE eType, const char* szFunction)
+{
+    switch (eType) {
+        case CALL_TYPE_FINANCE:
+            return "/Finance";
+        case CALL_TYPE_CROSSBORDER:
+            return "/CrossBorder";
+    }
+    RaiseFault(szFunction, "想定外動作モード");
+}
+
+}  // namespace
+
+std::string FindDefinition(CALL_TYPE eType,
+                           const std::string& strProcId,
+                           const char* szFile,
+                           const char* szFunction)
+{
+    const std::string strFolder = FolderName(eType, szFunction);
+    const std::string strBundle = KZCMacOSNative::getBundlePath();
+    if (strBundle.empty())
+        return {};  // not a folder of that name in the root of the file system
+    return KZCEkaCommon::searchProperties(strBundle + strFolder, strProcId, szFile);
+}
+
+}  // namespace FamilyFolder

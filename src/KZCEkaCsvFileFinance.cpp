@@ -1,0 +1,238 @@
+#include "KZCEkaCsvFileFinance.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "CText.h"
+#include "FamilyFolder.h"
+#include "Fault.h"
+#include "KZCDebugDump.h"
+#include "KZCEkaXDOM.h"
+#include "KZCValidResult.h"
+
+namespace {
+
+/// What ValidateRecordFinance tells the reader.
+constexpr int STORE_RECORD = 1;
+constexpr int STOP_READING = 0;
+constexpr int DROP_RECORD = -1;
+
+constexpr const char* VALIDATE_RECORD = "KZCEkaCsvFileFinance::ValidateRecordFinance";
+constexpr const char* CHECK_MAX_RECORD = "KZCEkaCsvFileFinance::checkMaxRecord";
+
+/// The one procedure whose records may begin with an empty column.
+constexpr const char* TYPEID_CSVRECORDTYPE = "202";
+
+std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
+{
+    return CText::ReadLong(dom.GetAttribute(szAttribute).c_str());
+}
+
+}  // namespace
+
+std::int64_t KZCEkaCsvFileFinance::GetNonCRLFRecordCount() const
+{
+    std::int64_t nCount = 0;
+    for (auto pRecord = m_vecRecord.begin(); pRecord != m_vecRecord.end(); ++pRecord)
+        if (!isEmptyRecord(pRecord))
+            ++nCount;
+    return nCount;
+}
+
+int KZCEkaCsvFileFinance::ReadFile(const std::string& strPath)
+{
+    constexpr const char* FUNCTION = "KZCEkaCsvFileFinance::ReadFile";
+    try {
+        return ReadAndParse(strPath, false, FUNCTION);
+    } catch (...) {
+        RaiseFault(FUNCTION, UNEXPECTED_ERROR);
+    }
+}
+
+bool KZCEkaCsvFileFinance::IsValidRecord(long lRecord) const
+{
+    if (lRecord < 0 || lRecord >= GetRecordCount())
+        return false;
+    const Record& record = m_vecRecord[static_cast<std::size_t>(lRecord)];
+    if (m_eEmptyCheckMode == EMPTYCHECK_COLUMN_COUNT)
+        return !record.empty();
+    return std::ranges::any_of(record, [](const std::string& strCell) { return !strCell.empty(); });
+}
+
+void KZCEkaCsvFileFinance::DeleteEmptyRecord()
+{
+    std::vector<Record> vecKept;
+    for (auto pRecord = m_vecRecord.begin(); pRecord != m_vecRecord.end(); ++pRecord)
+        if (!isEmptyRecord(pRecord))
+            vecKept.push_back(std::move(*pRecord));
+    m_vecRecord = std::move(vecKept);
+}
+
+void KZCEkaCsvFileFinance::Clear()
+{
+    KZCEkaCsvFile::Clear();
+    m_vecColInfo.clear();
+}
+
+int KZCEkaCsvFileFinance::ColumnTerm(std::string& strBuffer, Record& record, bool bEndOfRecord)
+{
+    TakeColumn(strBuffer, record);
+    if (!bEndOfRecord)
+        return STATUS_OK;
+    switch (ValidateRecordFinance(record)) {
+        case STORE_RECORD:
+            StoreRecord(record);
+            return STATUS_OK;
+        case DROP_RECORD:
+            record.clear();
+            return STATUS_OK;
+        default:
+            return STATUS_NG;
+    }
+}
+
+int KZCEkaCsvFileFinance::ValidateRecordFinance(const Record& record)
+{
+    const std::string& strFirst = record.front();
+    if (strFirst.empty() && record.size() == 1)
+        return DROP_RECORD;
+    if (m_strTypeId.empty() && !ReadReports(record))
+        return STOP_READING;
+    // With several reports only the first record of the file begins with the type id.
+    if (m_vecColInfo.size() != 1 || m_vecRecord.empty() || strFirst == m_strTypeId)
+        return STORE_RECORD;
+    Refuse(HE70021E, 0, 1, VALIDATE_RECORD, "CSV内で申請番号が統一されていません。（HE70021E）",
+           strFirst.c_str());
+    return STOP_READING;
+}
+
+/// Takes the type id of the first record and the reports of its procedure. False if there are none;
+/// the reason is in the result store.
+bool KZCEkaCsvFileFinance::ReadReports(const Record& record)
+{
+    const std::string& strTypeId = record.front();
+    PROC_INFO info;
+    if (!KZCDefinitionManager::getProcInfo(strTypeId, info, m_eCallType)) {
+        Refuse(HE70021E, 0, 1, VALIDATE_RECORD, "手続情報が見つかりません。（HE70021E）", "");
+        return false;
+    }
+    LoadReports(strTypeId, info.procId);
+    if (!m_strTypeId.empty())
+        return true;
+    Refuse(HE70021E, 0, 1, VALIDATE_RECORD,
+           "定義体から対応する申請番号種別が見つかりません（HE70021E）", strTypeId.c_str());
+    return false;
+}
+
+void KZCEkaCsvFileFinance::LoadReports(const std::string& strTypeId, const std::string& strProcId)
+{
+    const std::string strPath = FamilyFolder::FindDefinition(
+        m_eCallType, strProcId, FamilyFolder::VALIDATION_FILE, VALIDATE_RECORD);
+    KZCEkaXDOM dom;
+    if (!dom.Initialize() || !dom.Parse(strPath.c_str()))
+        RaiseFault(VALIDATE_RECORD, "定義体の読み込みでエラーが発生しました。");
+    for (long lMove = dom.MoveFirstChild(); lMove == STATUS_OK; lMove = dom.MoveNextSibling()) {
+        if (dom.GetNodeName() != "report")
+            continue;
+        m_strTypeId = strTypeId;
+        setEmptyCheckMode(strTypeId);
+        m_vecColInfo.push_back({ReadNumber(dom, "startRow"), ReadNumber(dom, "endRow"),
+                                ReadNumber(dom, "columnNum"), ReadNumber(dom, "lastRecord")});
+    }
+}
+
+int KZCEkaCsvFileFinance::checkMaxRecord() const
+{
+    if (m_strTypeId.empty())
+        return Refuse(HE70024E, 0, 0, CHECK_MAX_RECORD,
+                      "CSVデータに有効なレコードが存在しません。（HE70024E）", "");
+    PROC_INFO info;
+    if (!KZCDefinitionManager::getProcInfo(m_strTypeId, info, m_eCallType))
+        return Refuse(HE70021E, 0, 1, CHECK_MAX_RECORD, "手続情報が見つかりません。（HE70021E）",
+                      "");
+    if (const std::int64_t nCount = GetNonCRLFRecordCount(); nCount > info.lMaxRecord)
+        return Refuse(HE70029E, 0, 0, CHECK_MAX_RECORD,
+                      "CSVレコードの総件数エラーです。（HE70029E）", nCount);
+    return CheckReportRecords();
+}
+
+/// Every record has the columns of its report.
+int KZCEkaCsvFileFinance::CheckReportRecords() const
+{
+    if (m_vecColInfo.size() == 1) {
+        for (int nIndex = 0; nIndex < GetRecordCount(); ++nIndex)
+            if (IsValidRecord(nIndex) &&
+                checkColumnCount(nIndex, m_vecColInfo.front().nColumnNum) != STATUS_OK)
+                return STATUS_NG;
+        return STATUS_OK;
+    }
+    const std::int64_t nValid = CountValidRecords();
+    if (static_cast<std::int64_t>(m_vecColInfo.size()) > nValid)
+        return Refuse(HE70033E, 2, 0, CHECK_MAX_RECORD,
+                      "2レコード目以降の入力が必要です。（HE70033E）", nValid);
+    const bool bPassed = std::ranges::all_of(
+        m_vecColInfo, [this](const COL_INFO& info) { return CheckRange(info) == STATUS_OK; });
+    return bPassed ? STATUS_OK : STATUS_NG;
+}
+
+/// The records of one of several reports, the empty ones too.
+int KZCEkaCsvFileFinance::CheckRange(const COL_INFO& info) const
+{
+    const std::int64_t nCount = GetRecordCount();
+    std::int64_t nFirst = nCount;
+    std::int64_t nLast = nCount;
+    if (info.nLastRecord == 0) {
+        nFirst = info.nStartRow;
+        if (nFirst < 1) {
+            KZCDebugDump::Log(CHECK_MAX_RECORD);
+            return STATUS_NG;
+        }
+        const bool bOpenEnd = info.nEndRow == 0 || info.nEndRow == -1;
+        // A trailer keeps its record out of the range before it.
+        const bool bTrailer = m_vecColInfo.back().nLastRecord != 0;
+        if (!bOpenEnd)
+            nLast = std::min(info.nEndRow, nCount);
+        else if (bTrailer)
+            nLast = nCount - 1;
+    }
+    for (std::int64_t nNumber = nFirst; nNumber <= nLast; ++nNumber)
+        if (checkColumnCount(static_cast<int>(nNumber - 1), info.nColumnNum) != STATUS_OK)
+            return STATUS_NG;
+    return STATUS_OK;
+}
+
+int KZCEkaCsvFileFinance::checkColumnCount(int nIndex, long lExpected) const
+{
+    constexpr const char* FUNCTION = "KZCEkaCsvFileFinance::checkColumnCount";
+    if (lExpected < 1)
+        return Refuse(HE70019E, 0, 0, FUNCTION,
+                      "定義体の内容が不正です。CSVのカラム数を取得できません。（HE70019E）",
+                      lExpected);
+    const auto nRecord = static_cast<std::size_t>(nIndex);
+    const long lCount =
+        nRecord < m_vecRecord.size() ? static_cast<long>(m_vecRecord[nRecord].size()) : 0;
+    if (lCount == lExpected)
+        return STATUS_OK;
+    return Refuse(HE70019E, 0, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）", lCount);
+}
+
+bool KZCEkaCsvFileFinance::isEmptyRecord(std::vector<Record>::const_iterator pRecord) const
+{
+    return pRecord->empty() ||
+           (m_eEmptyCheckMode == EMPTYCHECK_FIRST_COLUMN && pRecord->front().empty());
+}
+
+void KZCEkaCsvFileFinance::setEmptyCheckMode(const std::string& strTypeId)
+{
+    m_eEmptyCheckMode =
+        strTypeId == TYPEID_CSVRECORDTYPE ? EMPTYCHECK_COLUMN_COUNT : EMPTYCHECK_FIRST_COLUMN;
+}
+
+std::int64_t KZCEkaCsvFileFinance::CountValidRecords() const
+{
+    std::int64_t nValid = 0;
+    for (long lRecord = 0; lRecord < GetRecordCount(); ++lRecord)
+        if (IsValidRecord(lRecord))
+            ++nValid;
+    return nValid;
+}
