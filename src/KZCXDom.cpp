@@ -18,6 +18,7 @@
 #include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCMacOSNative.h"
+#include "XercesMemory.h"
 
 namespace {
 
@@ -67,6 +68,8 @@ public:
 class BoundedParser final : public xercesc::XercesDOMParser
 {
 public:
+    explicit BoundedParser(xercesc::MemoryManager* pMemory) : XercesDOMParser(nullptr, pMemory) {}
+
     void startDocument() override
     {
         m_nDepth = 0;
@@ -196,7 +199,8 @@ struct KZCXDom::Parser
     NothingExternal entityResolver;
     xercesc::SecurityManager securityManager;
     xercesc::HandlerBase errorHandler;  // ignores all but fatal errors, which it throws
-    BoundedParser domParser;
+    XercesMemory memory;
+    BoundedParser domParser{&memory};
 
     Parser()
     {
