@@ -38,8 +38,7 @@ extern "C"
     /// Turns a CSV file into a document file. The columns aren't checked again: call
     /// KZEkaMok_CsvCheck first. Ends all keys. Sets Result, on failure DetailErrorInfo too.
     /// \param szMokPathName  Path of the document, ending in .mok or .MOK, in a folder that exists.
-    /// An
-    ///     existing file is replaced.
+    ///     An existing file is replaced.
     /// \param szZeimushoCD   Tax office, 5 digits.
     /// \param szNozeishaId   Filer's id, 16 digits.
     /// \param szKojinBango   Personal number, 12 digits, or empty. Not together with szHojinBango.
@@ -103,7 +102,7 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_CsvConvMok, with the day of filing and the filer's postal code.
-    /// \param szTeishutsuEra    Era of the day of filing: 1 Meiji to 5 Reiwa.
+    /// \param szTeishutsuEra    Era of the day of filing: 1 to 5, the era codes of CSV columns.
     /// \param szTeishutsuYear   Year of the era, 1 to 99.
     /// \param szTeishutsuMonth  1 to 12.
     /// \param szTeishutsuDay    1 to 31.

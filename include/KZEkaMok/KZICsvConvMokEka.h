@@ -86,7 +86,7 @@ public:
     std::shared_ptr<KZIConvertResultEka> CsvCheckFinance(const char* szCsvPathName);
 
     /// As CsvConvMok, with the day of filing and the filer's postal code.
-    /// \param szTeishutsuEra    Era of the day of filing: 1 Meiji to 5 Reiwa.
+    /// \param szTeishutsuEra    Era of the day of filing: 1 to 5, the era codes of CSV columns.
     /// \param szTeishutsuYear   Year of the era, 1 to 99.
     /// \param szTeishutsuMonth  1 to 12.
     /// \param szTeishutsuDay    1 to 31.

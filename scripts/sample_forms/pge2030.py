@@ -76,13 +76,19 @@ def passing():
 
 def failing():
     return [
-        (header({2: "RISHI_0001", 3: "3", 4: "ｵﾓﾃﾉ", 7: "19990001234", 18: "0", 19: "13"}),
-         [(2, 6), (3, 9), (4, 3), (7, 10), (18, 9), (19, 9)],
-         "underscore; unknown kind; half-width kana; a telephone number that doesn't begin with 0; "
-         "no sheet; unknown medium"),
-        (totals({1: "X", 2: "", 3: "1.5", 8: "1234567890123", 14: "ﾃｷﾖｳ"}),
-         [(1, 9), (2, 1), (3, 4), (8, 8), (14, 6)],
-         "unknown kind of record; no number of people; decimal point; 13 digits; half-width kana"),
+        (header({2: "RISHI_0001", 3: "3", 4: "ｵﾓﾃﾉ", 5: "表野－能子", 6: "Dept", 7: "19990001234",
+                 **date(8, 5, 1, 12, 31), 16: "", 17: "99999", 18: "0", 19: "13", 20: "ﾃｷﾖｳ"}),
+         [(2, 6), (3, 9), (4, 3), (5, 6), (6, 6), (7, 10), (8, 11, 10), (16, 1), (17, 11), (18, 9),
+          (19, 9), (20, 6)],
+         "underscore; unknown kind; half-width kana; full-width hyphen; half-width letters; a "
+         "telephone number that doesn't begin with 0; the period begins before the first day "
+         "allowed, so that its end isn't compared with it; no office's name and an unknown code; "
+         "no sheet; unknown medium; half-width kana"),
+        (totals({1: "X", 2: "", 3: "1.5", 4: "x", 5: "x", 6: "", 7: "1" * 14, 8: "1" * 13, 9: "x",
+                 10: "1" * 7, 11: "", 12: "1" * 13, 13: "1" * 13, 14: "ﾃｷﾖｳ"}),
+         [(1, 9), (2, 1), (3, 4), (4, 4), (5, 4), (6, 1), (7, 8), (8, 8), (9, 4), (10, 8), (11, 1),
+          (12, 8), (13, 8), (14, 6)],
+         "unknown kind of record; cells that are empty, too long or no numbers; half-width kana"),
         (detail(0), [], "right"),
         (detail(1, {1: ""}), [(1, 1)], "no kind of record: a conversion would drop the record"),
         (detail(2, {1: "103", 2: "12345"}), [(1, 9), (2, 8)],
@@ -101,7 +107,7 @@ def failing():
         (detail(14, {9: "4", 10: ""}), [(9, 9), (10, 1)], "unknown kind; no name"),
         (detail(15, {10: "ｺｸｻｲ", 13: "0"}), [(10, 6), (13, 9)],
          "half-width kana; month 0: the whole date isn't checked then"),
-        (detail(16, date(11, 5, 6, 12, 31)), [(11, 14, 25)],
+        (detail(16, date(11, 5, 1, 12, 30)), [(11, 14, 25)],
          "paid on the day before record 1's period"),
         (detail(17, date(11, 5, 7, 7, 1)), [(11, 14, 25)], "paid on the day behind it"),
         (detail(18, date(11, 5, 7, 2, 29)), [(11, 14, 12)], "29 February of a year that has none"),
@@ -115,5 +121,18 @@ def failing():
         (detail(24, {17: "", 18: "", 20: "3"}), [(17, 1), (20, 9)], "no rate; unknown exemption"),
         (detail(25, {21: "123456", 22: "摘" * 30 + "x"}), [(21, 8), (22, 8)],
          "6 digits; remarks of 61 bytes"),
+        (detail(28, {column: "" for column in range(2, 23)}),
+         [(2, 1), (3, 1), (4, 1), (5, 1), (6, 1), (7, 1), (9, 1), (10, 1), (11, 1), (12, 1),
+          (13, 1), (14, 1), (16, 1), (17, 1)], "nothing but the kind of record"),
+        (detail(30, {2: "x", 3: "9", 6: "x", 8: "x", 11: "3", 12: "x", 13: "x", 14: "x", 15: "x",
+                     16: "x", 17: "x", 18: "x", 19: "x", 21: "x"}),
+         [(2, 4), (3, 9), (6, 4), (8, 4), (11, 9), (12, 4), (13, 4), (14, 4), (15, 4), (16, 4),
+          (17, 4), (18, 4), (19, 4), (21, 4)],
+         "letters in place of numbers; unknown kind; an era that isn't allowed"),
+        (detail(31, {3: "2", 4: "ア" * 41, 6: "9999999", 7: "ﾏﾁ",
+                     8: spoilt_tail(hojin("970000000123")), 10: "銘" * 31, 12: "100", 13: "13",
+                     14: "32", 16: "1" * 13, 18: "1" * 12, 19: "1" * 12, 22: "ﾃｷ"}),
+         [(4, 7), (6, 10), (7, 6), (8, 10), (10, 7), (12, 9), (13, 9), (14, 9), (16, 8), (18, 8),
+          (19, 8), (22, 6)], "too long or too great; wrong check digit; half-width kana"),
         (detail(26), [], "right"),
     ]

@@ -12,7 +12,7 @@
 #include "KZCEkaTaxOffices.h"
 #include "KZCValidResult.h"
 #include "XercesGuards.h"
-#include "definition/KZCEkaMOKDefineNode.h"
+#include "definition/KZCEkaMOKDefReportFinance.h"
 
 /// Starts each test with the state of a process that has just loaded the library, leaves it so, and
 /// keeps the XML library running meanwhile. Works in constructor and destructor, so that a fixture
@@ -30,6 +30,7 @@ private:
         KZCValidResult::destroy();
         KZCEkaTaxOffices::destroy();
         KZCEkaMOKDefineNode::clearCloseTags();
+        KZCEkaMOKDefReportFinance::clearReportIDList();
         KZCEkaCommon::setExecMode(KZCEkaCommon::EXEC_MODE_ZEKA);
         KZCEkaCommon::SetCsvCheckFlag(false);
         KZCDebugDump::Reset();
