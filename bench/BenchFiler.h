@@ -15,5 +15,12 @@ inline constexpr const char* DAIRI_NM = "";
 inline constexpr const char* DAIRI_ADR = "";
 inline constexpr const char* TETSUZUKI = "PGE5020";
 inline constexpr const char* SOFT_NAME = "bench";
+// Of the Finance family alone.
+inline constexpr const char* TEISHUTSU_ERA = "5";
+inline constexpr const char* TEISHUTSU_YEAR = "7";
+inline constexpr const char* TEISHUTSU_MONTH = "1";
+inline constexpr const char* TEISHUTSU_DAY = "31";
+inline constexpr const char* NOZEISHA_ZIP1 = "123";
+inline constexpr const char* NOZEISHA_ZIP2 = "4567";
 
 }  // namespace BenchFiler

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdlib>
+#include <cstring>
 #include <fstream>
 #include <stdexcept>
 #include <string_view>
@@ -86,7 +87,7 @@ constexpr std::array<Column, COLUMN_COUNT - 1> COLUMNS = {{
     {R"(id="GEZ00235" parent="GEZ00230" type="Normal")",
      R"(<valid id="exist"/><valid id="istring"/>)",
      Fill::PADDED,
-     {"青葉市中央一丁目二番三号", "白浜町大字北浜字松原四五六番地", "緑ヶ丘市南町七－八－九"},
+     {"青葉市中央一丁目二番三号", "白浜町大字北浜字松原四五六番地", "緑ヶ丘市南町七丁目八番"},
      "青葉市中央２℃"},
     {R"(id="GEZ00236" parent="GEZ00230" type="Normal")",
      R"(<valid id="multikana_2"/><valid id="length" max="120"/>)",
@@ -270,7 +271,7 @@ std::string RecordText(const CsvShape& shape, std::size_t nRecord)
 {
     const std::size_t nPadding = Share(shape.nPadding, shape.nRecords, nRecord);
     std::size_t nPadded = 0;
-    std::string strRecord = TYPE_ID;
+    std::string strRecord = shape.szTypeId;
     for (const Column& column : COLUMNS) {
         strRecord += ',';
         if (shape.eCells == Cells::WRONG) {
@@ -283,6 +284,17 @@ std::string RecordText(const CsvShape& shape, std::size_t nRecord)
         nPadded += bPadded ? 1 : 0;
     }
     return strRecord + "\r\n";
+}
+
+std::string ItemsText()
+{
+    std::string strText = GROUPS;
+    std::size_t nColumn = 2;
+    for (const Column& column : COLUMNS) {
+        strText += std::string("<item ") + column.szItem + R"( column=")" +
+                   std::to_string(nColumn++) + R"(">)" + column.szChecks + "</item>\n";
+    }
+    return strText;
 }
 
 std::string ToShiftJis(std::string_view strText)
@@ -298,16 +310,22 @@ std::string ToShiftJis(std::string_view strText)
 
 std::string DefinitionText()
 {
-    std::string strText = R"(<?xml version="1.0" encoding="UTF-8"?><DEFINE>)";
-    strText += R"(<report id=")" + std::string(TYPE_ID) + R"(" columnNum=")" +
-               std::to_string(COLUMN_COUNT) + R"(" procId=")" + PROCEDURE_ID +
-               R"(" procVR="1.0" reportId="GEZ002" reportVR="2.0">)" + GROUPS;
-    std::size_t nColumn = 2;
-    for (const Column& column : COLUMNS) {
-        strText += std::string("<item ") + column.szItem + R"( column=")" +
-                   std::to_string(nColumn++) + R"(">)" + column.szChecks + "</item>\n";
-    }
-    return strText + "</report>" + DateReportText() + "</DEFINE>\n";
+    return std::string(R"(<?xml version="1.0" encoding="UTF-8"?><DEFINE><report id=")") + TYPE_ID +
+           R"(" columnNum=")" + std::to_string(COLUMN_COUNT) + R"(" procId=")" + PROCEDURE_ID +
+           R"(" procVR="1.0" reportId="GEZ002" reportVR="2.0">)" + ItemsText() + "</report>" +
+           DateReportText() + "</DEFINE>\n";
+}
+
+std::string FinanceDefinitionText(const char* szProcedureId, const char* szRows)
+{
+    std::string strItems = ItemsText();
+    // The family has no generations: what belongs to one would be left out.
+    for (const char* szGeneration : {R"( generation="junior")", R"( generation="senior")"})
+        strItems.erase(strItems.find(szGeneration), std::strlen(szGeneration));
+    return std::string(R"(<?xml version="1.0" encoding="UTF-8"?><DEFINE><report procId=")") +
+           szProcedureId + R"(" columnNum=")" + std::to_string(COLUMN_COUNT) +
+           R"(" procVR="1.0" reportId="GEZ002" reportVR="2.0" )" + szRows + ">" + strItems +
+           "</report></DEFINE>\n";
 }
 
 std::string TaxOfficesText()
@@ -354,6 +372,15 @@ Folder::Folder()
     std::filesystem::create_directory(bundle);
     WriteFile(bundle / "KZEkaDefine.xml", DefinitionText());
     WriteFile(bundle / "TaxOffices.xml", TaxOfficesText());
+    const std::filesystem::path finance = bundle / "Finance";
+    std::filesystem::create_directory(finance);
+    for (const char* szEnding : {"_vld.xml", "_tpl.xml"}) {
+        WriteFile(finance / (std::string(FINANCE_PROCEDURE_ID) + szEnding),
+                  FinanceDefinitionText(FINANCE_PROCEDURE_ID, ""));
+        WriteFile(
+            finance / (std::string(PAGED_PROCEDURE_ID) + szEnding),
+            FinanceDefinitionText(PAGED_PROCEDURE_ID, R"(startRow="1" endRow="-1" stepRow="6")"));
+    }
     setenv("KZEKAMOK_BUNDLE", bundle.c_str(), 1);
 }
 

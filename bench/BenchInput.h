@@ -7,13 +7,19 @@
 
 namespace BenchInput {
 
-/// Type id and procedure of the only report that the made definition file knows.
+/// Type id and procedure of the report that the made definition file knows.
 inline constexpr const char* TYPE_ID = "002";
 inline constexpr const char* PROCEDURE_ID = "PGE5020";
+/// The same in the Finance family: with a page for each record, and with pages of several records.
+inline constexpr const char* FINANCE_TYPE_ID = "101";
+inline constexpr const char* FINANCE_PROCEDURE_ID = "PGE2015";
+inline constexpr const char* PAGED_TYPE_ID = "202";
+inline constexpr const char* PAGED_PROCEDURE_ID = "PGE1640";
 /// Columns of a record. The first is the type id, the others are checked.
 inline constexpr std::size_t COLUMN_COUNT = 30;
 /// The most records that a file may have.
 inline constexpr std::size_t MAX_RECORDS = 5000;
+inline constexpr std::size_t FINANCE_MAX_RECORDS = 1000;
 
 enum class Cells
 {
@@ -28,10 +34,14 @@ struct CsvShape
     /// Bytes by which the document made of the file is longer than without padding, spread over the
     /// records' free texts.
     std::size_t nPadding = 0;
+    const char* szTypeId = TYPE_ID;
 };
 
 /// A definition file whose report has COLUMN_COUNT columns of every common kind. UTF-8.
 std::string DefinitionText();
+/// The same report as both definition files of a Finance procedure. \param szRows  Its row
+/// attributes. UTF-8.
+std::string FinanceDefinitionText(const char* szProcedureId, const char* szRows);
 /// A report of type id "001" with every date check and age. UTF-8; DefinitionText holds it too.
 std::string DateReportText();
 /// A CSV file for it, COLUMN_COUNT columns a record, that passes.

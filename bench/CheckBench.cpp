@@ -9,11 +9,16 @@
 
 namespace {
 
-void Check(benchmark::State& state, const std::string& strCsv, const char* szExpected)
+using Operation = KZCConvertResultEka* (KZCCsvConvMokEka::*)(const char*);
+
+void Check(benchmark::State& state,
+           const std::string& strCsv,
+           const char* szExpected,
+           Operation pCheck = &KZCCsvConvMokEka::CsvCheck)
 {
     KZCCsvConvMokEka converter;
     for (auto _ : state) {
-        if (converter.CsvCheck(strCsv.c_str())->GetResult() != szExpected) {
+        if ((converter.*pCheck)(strCsv.c_str())->GetResult() != szExpected) {
             state.SkipWithError("the check had another outcome than its input calls for");
             break;
         }
@@ -50,9 +55,29 @@ void CheckDates(benchmark::State& state)
     Check(state, strCsv, PROCESS_OK);
 }
 
+void CheckFinance(benchmark::State& state, BenchInput::Cells eCells, const char* szExpected)
+{
+    const BenchInput::Folder folder;
+    const BenchInput::CsvShape shape = {RecordCount(state), eCells, 0, BenchInput::FINANCE_TYPE_ID};
+    Check(state, folder.WriteCsv("check.csv", shape), szExpected,
+          &KZCCsvConvMokEka::CsvCheckFinance);
+}
+
+void CheckFinanceClean(benchmark::State& state)
+{
+    CheckFinance(state, BenchInput::Cells::CLEAN, PROCESS_OK);
+}
+
+void CheckFinanceEveryCellWrong(benchmark::State& state)
+{
+    CheckFinance(state, BenchInput::Cells::WRONG, PROCESS_FAIL);
+}
+
 // The argument is the number of records; items are cells.
 BENCHMARK(CheckClean)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(CheckDates)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
 BENCHMARK(CheckEveryCellWrong)->Arg(500)->Arg(5000)->Unit(benchmark::kMillisecond);
+BENCHMARK(CheckFinanceClean)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
+BENCHMARK(CheckFinanceEveryCellWrong)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -1,21 +1,24 @@
 // Checks one CSV file through the shared library.
 //
-//     bench_check CSV
+//     bench_check [--finance] CSV
 //
 // Prints the result and the number of entries of the detail table.
 #include <KZEkaMok/KZEkaMok.h>
 
 #include <algorithm>
 #include <iostream>
+#include <string_view>
 
 int main(int argc, char** argv)
 {
-    if (argc != 2) {
-        std::cerr << "usage: bench_check CSV\n";
+    const bool bFinance = argc > 1 && std::string_view(argv[1]) == "--finance";
+    if (argc != (bFinance ? 3 : 2)) {
+        std::cerr << "usage: bench_check [--finance] CSV\n";
         return 2;
     }
     KZICsvConvMokEka converter;
-    const auto pResult = converter.CsvCheck(argv[1]);
+    const auto pResult =
+        bFinance ? converter.CsvCheckFinance(argv[2]) : converter.CsvCheck(argv[1]);
     if (pResult == nullptr)
         return 3;
     const std::string& strErrors = pResult->GetDetailErrorInfo();

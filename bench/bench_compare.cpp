@@ -36,6 +36,9 @@ constexpr std::size_t DOCUMENT_SLACK = 64;
 constexpr std::size_t FULL_TABLE = 100001;
 static_assert(BenchInput::MAX_RECORDS * (BenchInput::COLUMN_COUNT - 1) >= FULL_TABLE);
 
+/// Bytes by which a Finance document is padded towards the limit.
+constexpr std::size_t FINANCE_PADDING = 8000000;
+
 constexpr int DEFAULT_RUNS = 9;
 
 struct Command
@@ -104,6 +107,41 @@ std::string Sibling(const char* szName)
 Command Convert(const std::string& strName, const std::string& strCsv, const std::string& strMok)
 {
     return {strName, {Sibling("bench_convert"), strCsv, strMok}, "S_OK \n"};
+}
+
+/// Finance requests on a full file and on one of a tenth of its records.
+struct FinancePair
+{
+    Command full;
+    Command tenth;
+};
+
+FinancePair CheckFinance(const std::string& strFull, const std::string& strTenth)
+{
+    const auto command = [](const char* szName, const std::string& strCsv) {
+        return Command{szName, {Sibling("bench_check"), "--finance", strCsv}, "S_OK 0\n"};
+    };
+    return {command("Finance check, 1,000 x 30 clean", strFull),
+            command("Finance check, 100 x 30 clean", strTenth)};
+}
+
+FinancePair ConvertFinance(const BenchInput::Folder& folder,
+                           const std::string& strName,
+                           const char* szTypeId,
+                           const char* szProcedureId,
+                           std::size_t nPadding)
+{
+    const auto command = [&](const char* szRecords, std::size_t nRecords, std::size_t nBytes) {
+        const std::string strCsv =
+            folder.WriteCsv(std::string(szTypeId) + "-" + szRecords + ".csv",
+                            {nRecords, BenchInput::Cells::CLEAN, nBytes, szTypeId});
+        Command convert = Convert("Finance conversion, " + std::string(szRecords) + strName, strCsv,
+                                  strCsv + ".mok");
+        convert.vecArgument.push_back(szProcedureId);
+        return convert;
+    };
+    return {command("1,000", BenchInput::FINANCE_MAX_RECORDS, nPadding),
+            command("100", BenchInput::FINANCE_MAX_RECORDS / 10, nPadding / 10)};
 }
 
 /// The padding with which the document of a full file ends just below the limit. A byte of padding
@@ -182,8 +220,23 @@ void Compare(int nRuns)
     Command miller = {
         "mlr --icsv --ocsv cat, 5,000 x 30", {"mlr", "--icsv", "--ocsv", "cat", strClean}, ""};
 
+    const auto writeFinance = [&folder](const std::string& strName, std::size_t nRecords) {
+        return folder.WriteCsv(
+            strName, {nRecords, BenchInput::Cells::CLEAN, 0, BenchInput::FINANCE_TYPE_ID});
+    };
+    FinancePair checkFinance =
+        CheckFinance(writeFinance("finance.csv", BenchInput::FINANCE_MAX_RECORDS),
+                     writeFinance("finance-tenth.csv", BenchInput::FINANCE_MAX_RECORDS / 10));
+    FinancePair convertFinance = ConvertFinance(folder, " pages", BenchInput::FINANCE_TYPE_ID,
+                                                BenchInput::FINANCE_PROCEDURE_ID, FINANCE_PADDING);
+    FinancePair convertPaged =
+        ConvertFinance(folder, " records, 6 a page", BenchInput::PAGED_TYPE_ID,
+                       BenchInput::PAGED_PROCEDURE_ID, FINANCE_PADDING);
+
     std::vector<Command*> vecCommand = {&convert, &bare,     &bareLeast,  &convertTenth,
                                         &check,   &checkFew, &checkWrong, &checkDates};
+    for (FinancePair* pPair : {&checkFinance, &convertFinance, &convertPaged})
+        vecCommand.insert(vecCommand.end(), {&pPair->full, &pPair->tenth});
     const bool bMiller = HasProgram("mlr");
     if (bMiller)
         vecCommand.insert(vecCommand.end(), {&miller, &millerDates});
@@ -213,6 +266,12 @@ void Compare(int nRuns)
     PrintRatio("check of 5,000 / of 500 records", check.dSeconds, checkFew.dSeconds, 11.0);
     PrintRatio("conversion of 5,000 / of 500 records", convert.dSeconds, convertTenth.dSeconds,
                11.0);
+    PrintRatio("Finance check of 1,000 / of 100 records", checkFinance.full.dSeconds,
+               checkFinance.tenth.dSeconds, 11.0);
+    PrintRatio("Finance conversion of 1,000 / of 100 pages", convertFinance.full.dSeconds,
+               convertFinance.tenth.dSeconds, 11.0);
+    PrintRatio("Finance conversion of 1,000 / of 100 records, 6 a page", convertPaged.full.dSeconds,
+               convertPaged.tenth.dSeconds, 11.0);
 }
 
 }  // namespace

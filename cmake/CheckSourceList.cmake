@@ -7,7 +7,9 @@ separate_arguments(listFolders UNIX_COMMAND "${FOLDERS}")
 
 set(listFound "")
 foreach(strFolder IN LISTS listFolders)
-    file(GLOB_RECURSE listFiles "${SOURCE_DIR}/${strFolder}/*.cpp")
+    file(GLOB_RECURSE listFiles
+        "${SOURCE_DIR}/${strFolder}/*.c" "${SOURCE_DIR}/${strFolder}/*.cpp"
+        "${SOURCE_DIR}/${strFolder}/*.m")
     list(APPEND listFound ${listFiles})
 endforeach()
 # The consumer is a project of its own.

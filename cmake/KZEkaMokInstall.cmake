@@ -40,3 +40,18 @@ configure_file("${PROJECT_SOURCE_DIR}/cmake/KZEkaMok.pc.in"
     "${PROJECT_BINARY_DIR}/package/KZEkaMok.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/package/KZEkaMok.pc"
     DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+
+# A component, so that a package of the rest needs no Objective-C run-time.
+if(TARGET KZEkaMokObjC)
+    install(TARGETS KZEkaMokObjC EXPORT KZEkaMokObjCTargets
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT objc)
+    install(DIRECTORY "${PROJECT_SOURCE_DIR}/objc/include/KZEkaMok"
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT objc
+        FILES_MATCHING PATTERN "*.h")
+    install(EXPORT KZEkaMokObjCTargets NAMESPACE KZEkaMok::
+        DESTINATION "${strPackageDir}" COMPONENT objc)
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/KZEkaMokObjC.pc.in"
+        "${PROJECT_BINARY_DIR}/package/KZEkaMokObjC.pc" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/package/KZEkaMokObjC.pc"
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT objc)
+endif()

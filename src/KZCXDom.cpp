@@ -247,9 +247,9 @@ bool KZCXDom::Parse(const char* szText, const char* szBufferId, const char* szEn
         return false;
     }
     return RunParse([&] {
-        xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(szText),
-                                          std::char_traits<char>::length(szText),
-                                          CharToXMLCh(CText::OrEmpty(szBufferId)).Get());
+        xercesc::MemBufInputSource source(
+            reinterpret_cast<const XMLByte*>(szText), std::char_traits<char>::length(szText),
+            CharToXMLCh(CText::OrEmpty(szBufferId)).Get(), false, &m_pParser->memory);
         if (szEncoding != nullptr)
             source.setEncoding(CharToXMLCh(szEncoding).Get());
         m_pParser->domParser.ParseSource(source, std::char_traits<char>::length(szText));
@@ -266,7 +266,8 @@ bool KZCXDom::Parse(const char* szPath)
     return RunParse([&] {
         // Read by the library's own file layer, a path would depend on the locale.
         const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(strBytes.data()),
-                                                strBytes.size(), CharToXMLCh("file").Get());
+                                                strBytes.size(), CharToXMLCh("file").Get(), false,
+                                                &m_pParser->memory);
         m_pParser->domParser.ParseSource(source, strBytes.size());
     });
 }

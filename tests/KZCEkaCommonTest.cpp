@@ -370,6 +370,13 @@ TEST_F(KZCEkaCommonSearchTest, TwoEmptyKeysFitTheFirstFileByName)
     EXPECT_EQ(Search("", ""), m_folder.Path("definitions/PGE2015tpl.xml"));
 }
 
+TEST_F(KZCEkaCommonSearchTest, FirstByNameWinsWhicheverWasMadeFirst)
+{
+    for (const char* szName : {"m", "c", "z", "A", "b", "k"})
+        m_folder.Write(std::string("definitions/") + szName + "PGE2040vld.xml", "");
+    EXPECT_EQ(Search("PGE2040", "vld.xml"), m_folder.Path("definitions/APGE2040vld.xml"));
+}
+
 TEST_F(KZCEkaCommonSearchTest, AnEmptyFirstKeyFitsEveryFile)
 {
     EXPECT_EQ(Search("", "vld.xml"), m_folder.Path("definitions/PGE2015vld.xml"));

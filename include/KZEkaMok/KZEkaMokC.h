@@ -17,7 +17,7 @@
 /// \endcode
 #pragma once
 
-#include <stdint.h>
+#include <stdint.h>  // NOLINT(modernize-deprecated-headers): C has no other
 
 #include <KZEkaMok/KZEkaMokConstants.h>
 #include <KZEkaMok/KZEkaMokExport.h>
@@ -28,7 +28,7 @@ extern "C"
 #endif
 
     /// The outcome of a request: five texts. A field that a request doesn't set is empty.
-    typedef struct KZEkaMokResult KZEkaMokResult;
+    typedef struct KZEkaMokResult KZEkaMokResult;  // NOLINT(modernize-use-using): the same
 
     /// Checks a CSV file and forgets it. Ends all keys.
     /// Sets ProcId and Result, on failure Result and DetailErrorInfo.
@@ -91,8 +91,7 @@ extern "C"
 
     /// Saves a text as a Shift_JIS file; keys stay. Sets Result, on failure DetailErrorInfo too.
     /// \param szCsvPath  Path of the file, in a folder that exists. An existing file is replaced.
-    /// \param szData     Taken as Shift_JIS bytes, NOT as UTF-8: a UTF-8 text in Japanese is
-    /// refused or
+    /// \param szData     Taken as Shift_JIS bytes, NOT as UTF-8: Japanese in UTF-8 is refused or
     ///     comes out as other characters.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvWrite(const char* szCsvPath,
                                                       const char* szData) KZEKAMOK_NOEXCEPT;

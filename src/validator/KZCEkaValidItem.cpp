@@ -68,7 +68,8 @@ int KZCEkaValidItem::ValidateOuter(const char* szValue)
 
 void KZCEkaValidItem::AddOuterItem(KZCEkaValidItem* pItem)
 {
-    m_vecOuter.emplace_back(pItem);
+    std::unique_ptr<KZCEkaValidItem> pOwned(pItem);  // before the list, which may fail to grow
+    m_vecOuter.push_back(std::move(pOwned));
 }
 
 std::string KZCEkaValidItem::GetYYYYMMDDStr(const KZCEkaCsvFile* pCsv,

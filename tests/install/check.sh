@@ -53,7 +53,13 @@ check_output "$strWork/by-pkg-config"
 
 # Nothing but the public headers, and no path of the build.
 strHeaders=$(cd "$strPrefix/include" && find . -type f | LC_ALL=C sort | tr '\n' ' ')
-strPublic=$(cd "$strSource/../../include" && find . -type f -name '*.h' | LC_ALL=C sort | tr '\n' ' ')
+strPublic=$({
+    cd "$strSource/../../include" && find . -type f -name '*.h'
+    # The Objective-C classes come if they were built.
+    if [ -e "$strLibrary/libKZEkaMokObjC.so" ]; then
+        cd "$strSource/../../objc/include" && find . -type f -name '*.h'
+    fi
+} | LC_ALL=C sort | tr '\n' ' ')
 [ "$strHeaders" = "$strPublic" ] || fail "installed headers: $strHeaders"
 for strPath in "$(cd "$strSource/../.." && pwd)" "$strBuild"; do
     if grep -rlF -- "$strPath" "$strPrefix"; then

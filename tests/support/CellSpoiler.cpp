@@ -169,7 +169,7 @@ std::vector<SpoiledRecord> SpoilRecord(const FormRules& form, RecordTable& table
         if (!Applies(form, rule, table, lRow))
             continue;
         for (const long lColumn : rule.setReported) {
-            if (lColumn < 2 || lColumn > form.lColumnCount)
+            if (lColumn < form.FirstFreeColumn() || lColumn > form.lColumnCount)
                 continue;
             const auto strCell = SpoiledCell(rule, table, lRow, lColumn);
             if (!strCell || *strCell == table.Cell(lRow, lColumn))

@@ -25,5 +25,5 @@ std::optional<std::string> SpoiledCell(const CheckRule& rule,
 
 /// Every spoiled record that one passing record gives: one for each active check and column that
 /// the check reports, unless the spoiling itself keeps the check from being reached. The record
-/// stands last in the table and stays as it is. Inside a CheckPhase only.
+/// stays as it is. Inside a CheckPhase only.
 std::vector<SpoiledRecord> SpoilRecord(const FormRules& form, RecordTable& table, long lRow);

@@ -86,7 +86,7 @@ void AddReads(const CheckRule& rule, const std::string& strTypeId, std::set<long
 void SetReported(CheckRule& rule, const std::string& strTypeId)
 {
     const std::string& strKeyword = rule.strKeyword;
-    if (strKeyword == "nonerr")
+    if (strKeyword == "nonerr" || !rule.strErrRow.empty())
         return;
     const bool bMovable = strKeyword == "containyear" || strKeyword == "rangebasedate" ||
                           strKeyword == "rangebasedate_2";
@@ -123,6 +123,9 @@ public:
         m_form.strProcId = m_dom.GetAttribute("procId");
         m_form.strReportId = m_dom.GetAttribute("reportId");
         m_form.lColumnCount = NumberOf(m_dom.GetAttribute("columnNum"));
+        m_form.lStartRow = NumberOf(m_dom.GetAttribute("startRow"));
+        m_form.lEndRow = NumberOf(m_dom.GetAttribute("endRow"));
+        m_form.bLastRecord = NumberOf(m_dom.GetAttribute("lastRecord")) != 0;
         ForEachChild("item", [this] { ReadItem(); });
         for (CheckRule& rule : m_form.vecCheck)
             Resolve(rule);
@@ -167,7 +170,7 @@ private:
 
     void FindParent(ItemRule& item) const
     {
-        const bool bTop = item.strParent == m_form.strReportId;
+        const bool bTop = item.strParent == m_form.strReportId || item.strParent.empty();
         bool bJunior = bTop;
         bool bSenior = bTop;
         for (std::size_t n = m_form.vecItem.size(); n-- > 0;) {
@@ -190,6 +193,7 @@ private:
         rule.strMin = m_dom.GetAttribute("min");
         rule.strMax = m_dom.GetAttribute("max");
         rule.strErrColumn = m_dom.GetAttribute("errcolumn");
+        rule.strErrRow = m_dom.GetAttribute("errrow");
         rule.lColumn = std::max(0L, NumberOf(m_dom.GetAttribute("column")));
         return rule;
     }
@@ -239,6 +243,8 @@ std::string CheckRule::Description() const
 
 std::vector<std::string> FormRules::Generations() const
 {
+    if (!bHasGenerations)
+        return {""};
     constexpr std::array<std::string_view, 4> TWO_GENERATIONS = {"001", "002", "007", "008"};
     if (std::ranges::find(TWO_GENERATIONS, strTypeId) != TWO_GENERATIONS.end())
         return {SENIOR, JUNIOR};

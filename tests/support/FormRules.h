@@ -21,13 +21,15 @@ struct CheckRule
     std::string strMin;
     std::string strMax;
     std::string strErrColumn;
+    std::string strErrRow;
     long lColumn = 0;  ///< resolved: the element's own, else the node's, else the group's first
     std::vector<CheckRule> vecCondition;
     std::size_t nItem = 0;  ///< place of its node in FormRules::vecItem
 
     /// Columns of its own record that the check reads, its conditions left aside.
     std::set<long> setReads;
-    /// Columns of which an error is recorded; empty for a check that records nothing.
+    /// Columns of its own record of which an error is recorded; empty for a check that records
+    /// nothing, or at another record.
     std::set<long> setReported;
 
     /// The library's item without its conditions, which records nothing where its class allows it.
@@ -64,11 +66,19 @@ struct FormRules
     std::string strProcId;
     std::string strReportId;
     long lColumnCount = 0;
+    long lStartRow = 0;           ///< first record that the form checks, from 1; 0: the first
+    long lEndRow = 0;             ///< last one; 0 and -1: the file's last
+    bool bLastRecord = false;     ///< checks the file's last record alone
+    bool bTypeIdFirst = true;     ///< its records begin with the type id
+    bool bHasGenerations = true;  ///< its records are of a generation
+    bool bQuoted = false;         ///< cells may stand in quotes and hold commas and line ends
     std::vector<ItemRule> vecItem;
     std::vector<CheckRule> vecCheck;  ///< in document order
 
-    /// The generations of which records of the type id can be.
+    /// The generations of which records of the type id can be; the empty text where there are none.
     std::vector<std::string> Generations() const;
+    /// The first column (from 1) whose cells aren't fixed.
+    long FirstFreeColumn() const { return bTypeIdFirst ? 2 : 1; }
 };
 
 /// Numbers or texts that are parted by single characters.

@@ -139,8 +139,9 @@ std::vector<TaxOffice> ReadTaxOffices(const std::string& strPath)
     return vecOffice;
 }
 
-CheckPhase::CheckPhase()
+CheckPhase::CheckPhase(KZCEkaCommon::EXEC_MODE eMode)
 {
+    KZCEkaCommon::setExecMode(eMode);
     KZCEkaTaxOffices::instance()->Initialize();
     KZCEkaCommon::SetCsvCheckFlag(true);
 }
@@ -164,6 +165,7 @@ void RecordGenerator::DayRange::Narrow(sys_days newFirst, sys_days newLast)
 struct RecordGenerator::CellShape
 {
     const TextClass* pClass = nullptr;
+    bool bLineFeeds = false;
     bool bNumeric = false;
     std::optional<long> bytes;
     std::optional<long> characters;
@@ -180,10 +182,12 @@ struct RecordGenerator::CellShape
 };
 
 RecordGenerator::RecordGenerator(const FormRules& form,
+                                 RecordTable& table,
                                  std::vector<TaxOffice> vecOffice,
                                  std::string strFolder,
                                  unsigned nSeed)
     : m_form(form),
+      m_table(table),
       m_vecOffice(std::move(vecOffice)),
       m_strFolder(std::move(strFolder)),
       m_random(nSeed)
@@ -192,10 +196,6 @@ RecordGenerator::RecordGenerator(const FormRules& form,
     m_setGenerationColumn.insert(vecColumn.begin(), vecColumn.end());
     if (!vecColumn.empty() && form.strTypeId != "001")
         m_lReferenceColumn = vecColumn.front();
-    for (const CheckRule& rule : form.vecCheck)
-        for (const std::string* pText : {&rule.strValue, &rule.strMin, &rule.strMax})
-            if (rule.strKeyword == "rangebasedate" || rule.strKeyword == "rangebasedate_2")
-                m_lReferred = std::max(m_lReferred, ReferenceOf(*pText).first);
     MakeUnits();
 }
 
@@ -238,7 +238,7 @@ void RecordGenerator::MakeUnits()
         if (rule.strKeyword == "age" && SplitTokens(rule.strValue).size() > 1)
             AddSpan(UnitKind::YEAR, NumberOf(SplitTokens(rule.strValue)[1]), 2);
     }
-    for (long lColumn = 2; lColumn <= m_form.lColumnCount; ++lColumn)
+    for (long lColumn = m_form.FirstFreeColumn(); lColumn <= m_form.lColumnCount; ++lColumn)
         AddUnit(UnitKind::CELL, {lColumn});
     for (Unit& unit : m_vecUnit)
         for (const CheckRule& rule : m_form.vecCheck)
@@ -258,7 +258,7 @@ void RecordGenerator::AddSpan(UnitKind eKind, long lFirst, long lCount)
 void RecordGenerator::AddUnit(UnitKind eKind, const std::vector<long>& vecColumn)
 {
     for (const long lColumn : vecColumn) {
-        if (lColumn < 2 || lColumn > m_form.lColumnCount)
+        if (lColumn < m_form.FirstFreeColumn() || lColumn > m_form.lColumnCount)
             return;
         for (const Unit& unit : m_vecUnit)
             if (std::ranges::find(unit.vecColumn, lColumn) != unit.vecColumn.end())
@@ -269,24 +269,14 @@ void RecordGenerator::AddUnit(UnitKind eKind, const std::vector<long>& vecColumn
 
 // --- records ---
 
-std::vector<RecordGenerator::Record> RecordGenerator::Make(std::size_t nCount)
+void RecordGenerator::Make(long lRow, std::size_t nTurn)
 {
     const std::vector<std::string> vecGeneration = m_form.Generations();
-    std::vector<Record> vecRecord;
-    for (std::size_t n = 0; n < nCount; ++n) {
-        m_strGeneration = vecGeneration[n % vecGeneration.size()];
-        const long lRow = std::min(static_cast<long>(n), m_lReferred);
-        MakeRecord(lRow);
-        vecRecord.push_back(m_table.At(lRow));
-    }
-    return vecRecord;
-}
-
-void RecordGenerator::MakeRecord(long lRow)
-{
+    m_strGeneration = vecGeneration[nTurn % vecGeneration.size()];
     for (int nAttempt = 0; nAttempt < RECORD_ATTEMPTS; ++nAttempt) {
         Record record(static_cast<std::size_t>(m_form.lColumnCount));
-        record.front() = m_form.strTypeId;
+        if (m_form.bTypeIdFirst)
+            record.front() = m_form.strTypeId;
         m_table.Put(lRow, record);
         for (const Unit& unit : m_vecUnit)
             Redraw(unit, lRow);
@@ -348,8 +338,8 @@ bool RecordGenerator::HasGeneration(long lRow) const
 std::string RecordGenerator::Complaint(long lRow) const
 {
     std::ostringstream stream;
-    stream << "no passing " << m_strGeneration << " record found for type id " << m_form.strTypeId
-           << ":";
+    stream << "no passing " << m_strGeneration << (m_strGeneration.empty() ? "" : " ")
+           << "record found for type id " << m_form.strTypeId << ":";
     for (const CheckRule* pRule : Refusals(lRow)) {
         stream << "\n  " << pRule->Description() << " of item "
                << m_form.vecItem[pRule->nItem].strId << " refuses";
@@ -714,6 +704,7 @@ void RecordGenerator::AddToShape(CellShape& shape, const CheckRule& rule, long l
     if (textClass != TEXT_CLASSES.end()) {
         if (shape.pClass == nullptr || &*textClass < shape.pClass)
             shape.pClass = &*textClass;
+        shape.bLineFeeds = shape.bLineFeeds || rule.strValue == "allow_LF";
     } else if (strKeyword == "contain") {
         std::vector<std::string> vecToken;
         for (const std::string& strToken : SplitTokens(rule.strValue))
@@ -766,8 +757,11 @@ void RecordGenerator::AddToShape(CellShape& shape, const CheckRule& rule, long l
 
 std::string RecordGenerator::DrawText(const CellShape& shape)
 {
-    const auto vecCharacter = Characters(shape.pClass == nullptr ? TEXT_CLASSES[2].szCharacters
-                                                                 : shape.pClass->szCharacters);
+    std::string strCharacters =
+        shape.pClass == nullptr ? TEXT_CLASSES[2].szCharacters : shape.pClass->szCharacters;
+    if (m_form.bQuoted && shape.pClass == &TEXT_CLASSES.back())
+        strCharacters += shape.bLineFeeds ? ",\"\n" : ",\"";
+    const auto vecCharacter = Characters(strCharacters);
     const auto lWidest =
         static_cast<long>(std::ranges::max(vecCharacter, {}, [](const std::string& strCharacter) {
                               return strCharacter.size();

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "FormRules.h"
+#include "KZCEkaCommon.h"
 #include "RecordTable.h"
 
 /// Name (UTF-8) and code of a tax office.
@@ -22,11 +23,12 @@ struct TaxOffice
 /// The offices of type 5 of a TaxOffices.xml.
 std::vector<TaxOffice> ReadTaxOffices(const std::string& strPath);
 
-/// Has the library read cells as a check does for as long as the object lives.
+/// Has the library read cells as a check of the mode's families does for as long as the object
+/// lives.
 class CheckPhase
 {
 public:
-    CheckPhase();
+    explicit CheckPhase(KZCEkaCommon::EXEC_MODE eMode = KZCEkaCommon::EXEC_MODE_ZEKA);
     ~CheckPhase();
     CheckPhase(const CheckPhase&) = delete;
     CheckPhase& operator=(const CheckPhase&) = delete;
@@ -41,19 +43,19 @@ class RecordGenerator
 public:
     using Record = KZCEkaCsvFile::Record;
 
-    /// \param form  Looked at until destruction. \param strFolder  Where files that cells name are
-    /// made.
+    /// \param form  Looked at until destruction. \param table  Where records are put, and where
+    /// checks find the other records of the file; looked at until destruction. \param strFolder
+    /// Where files that cells name are made.
     RecordGenerator(const FormRules& form,
+                    RecordTable& table,
                     std::vector<TaxOffice> vecOffice,
                     std::string strFolder,
                     unsigned nSeed);
 
-    /// Records to which others refer by their number stand first in every file.
-    long ReferredRecords() const { return m_lReferred; }
-
-    /// A file of records, whose generations take turns. Throws std::runtime_error that names column
-    /// and check if no passing record was found.
-    std::vector<Record> Make(std::size_t nCount);
+    /// Puts a record into the table, in place of another or behind the last. Throws
+    /// std::runtime_error that names column and check if no passing record was found.
+    /// \param lRow  From 0. \param nTurn  The generations of the form take turns.
+    void Make(long lRow, std::size_t nTurn);
 
     /// The checks of a generation whose conditions hold for a record.
     static bool IsActive(const CheckRule& rule, const RecordTable& table, long lRow);
@@ -88,7 +90,6 @@ private:
     void AddUnit(UnitKind eKind, const std::vector<long>& vecColumn);
     void AddSpan(UnitKind eKind, long lFirst, long lCount);
 
-    void MakeRecord(long lRow);
     std::vector<const CheckRule*> Refusals(long lRow) const;
     bool HasGeneration(long lRow) const;
     std::string Complaint(long lRow) const;
@@ -123,13 +124,12 @@ private:
     bool Chance(int nPercent) { return Random(1, 100) <= nPercent; }
 
     const FormRules& m_form;
+    RecordTable& m_table;
     std::vector<TaxOffice> m_vecOffice;
     std::string m_strFolder;
     std::mt19937 m_random;
     std::vector<Unit> m_vecUnit;
     std::set<long> m_setGenerationColumn;  ///< columns that tell the generation
     long m_lReferenceColumn = 0;           ///< of them the one with the reference number
-    RecordTable m_table;
-    std::string m_strGeneration;  ///< that the next record is to have
-    long m_lReferred = 0;
+    std::string m_strGeneration;           ///< that the next record is to have
 };

@@ -6,10 +6,13 @@
 
 #include "KZCEkaCsvFile.h"
 
-/// Holds records whose generations follow their cells. Records count from 0, columns from 1.
+/// Holds records whose generations, if the family has them, follow their cells. Records count from
+/// 0, columns from 1.
 class RecordTable final : public KZCEkaCsvFile
 {
 public:
+    explicit RecordTable(bool bHasGenerations = true) : m_bHasGenerations(bHasGenerations) {}
+
     /// Replaces the record, or adds one behind the last.
     void Put(long lRow, Record record)
     {
@@ -26,12 +29,16 @@ public:
         FindGeneration(lRow);
     }
     const Record& At(long lRow) const { return m_vecRecord.at(static_cast<std::size_t>(lRow)); }
+    const std::vector<Record>& Records() const { return m_vecRecord; }
     std::string Cell(long lRow, long lColumn) const { return GetItem(lRow, lColumn - 1); }
 
 private:
     void FindGeneration(long lRow)
     {
         m_mapGeneration.erase(lRow);
-        checkGeneration(lRow);
+        if (m_bHasGenerations)
+            checkGeneration(lRow);
     }
+
+    bool m_bHasGenerations;
 };

@@ -1,0 +1,42 @@
+// The validation file of a procedure: which form checks which record of a file.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "FormRules.h"
+
+enum class FamilyKind
+{
+    BASE,
+    FINANCE,
+    CROSSBORDER,
+};
+
+struct ProcedureRules
+{
+    FamilyKind eFamily = FamilyKind::BASE;
+    std::string strTypeId;
+    std::string strProcId;
+    std::size_t nMaxRecords = 0;     ///< that a file may have
+    std::vector<FormRules> vecForm;  ///< in document order; their record ranges don't overlap
+
+    /// Place in vecForm of the form that checks a record (from 0) of a file of so many records.
+    std::size_t FormAt(std::size_t nRow, std::size_t nCount) const;
+    /// The first record (from 0) of a file of so many records that a form checks.
+    std::size_t FirstRow(std::size_t nForm, std::size_t nCount) const;
+    /// The form checks as many records as there are.
+    bool IsRepeated(std::size_t nForm) const;
+    /// Records of the shortest file in which every form has a record and which holds every record
+    /// to which another refers by its number.
+    std::size_t ShortestFile() const;
+    /// Some check of another record reads the record (from 0).
+    bool IsReferredTo(std::size_t nRow) const;
+    bool HasGenerations() const { return eFamily == FamilyKind::BASE; }
+};
+
+/// The procedures of the shipped resource folder, or the wanted one alone. Throws
+/// std::runtime_error if a file can't be read.
+std::vector<ProcedureRules> ReadProcedures(const std::string& strBundle,
+                                           const std::string& strProcId = "");
