@@ -73,17 +73,23 @@ bool KZCEkaCsvFile::IsValidRecord(long lRecord) const
 
 void KZCEkaCsvFile::DeleteEmptyRecord()
 {
+    // All memory is taken before the first record moves: a fault leaves the file as it was.
     std::vector<Record> vecKept;
+    vecKept.reserve(m_vecRecord.size());
     std::map<std::int64_t, std::string> mapKept;
     auto pGeneration = m_mapGeneration.begin();
-    for (Record& record : m_vecRecord) {
+    std::int64_t nKept = 0;
+    for (const Record& record : m_vecRecord) {
         if (IsBlank(record))
             continue;
         // By position, not by the old number: wanted.
         if (pGeneration != m_mapGeneration.end())
-            mapKept.emplace(static_cast<std::int64_t>(vecKept.size()), (pGeneration++)->second);
-        vecKept.push_back(std::move(record));
+            mapKept.emplace(nKept, (pGeneration++)->second);
+        ++nKept;
     }
+    for (Record& record : m_vecRecord)
+        if (!IsBlank(record))
+            vecKept.push_back(std::move(record));
     m_vecRecord = std::move(vecKept);
     m_mapGeneration = std::move(mapKept);
 }

@@ -62,6 +62,7 @@ bool KZCEkaCsvFileFinance::IsValidRecord(long lRecord) const
 void KZCEkaCsvFileFinance::DeleteEmptyRecord()
 {
     std::vector<Record> vecKept;
+    vecKept.reserve(m_vecRecord.size());  // a fault behind this would lose the records that moved
     for (auto pRecord = m_vecRecord.begin(); pRecord != m_vecRecord.end(); ++pRecord)
         if (!isEmptyRecord(pRecord))
             vecKept.push_back(std::move(*pRecord));
