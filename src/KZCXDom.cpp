@@ -409,12 +409,11 @@ bool KZCXDom::Serialise()
     if (!m_strSerialised.empty())
         return true;
     return RunSaveStep([this] {
-        auto* pImplementation = dynamic_cast<xercesc::DOMImplementationLS*>(
-            xercesc::DOMImplementationRegistry::getDOMImplementation(CharToXMLCh("LS").Get()));
-        if (pImplementation == nullptr)
-            return false;
+        // Not from the registry, which loses memory when there is none left.
+        xercesc::DOMImplementationLS* pImplementation = m_pDocument->getImplementation();
+        xercesc::MemoryManager* pMemory = &m_pParser->memory;
         const ReleasedPointer<xercesc::DOMLSSerializer> pSerialiser(
-            pImplementation->createLSSerializer());
+            pImplementation->createLSSerializer(pMemory));
         xercesc::DOMConfiguration* pConfiguration = pSerialiser->getDomConfig();
         // A CDATA section that can't be written fails instead of being split.
         if (pConfiguration->canSetParameter(xercesc::XMLUni::fgDOMWRTSplitCdataSections, false))
@@ -424,7 +423,8 @@ bool KZCXDom::Serialise()
         pSerialiser->setNewLine(newLine.Get());
 
         TextTarget target;
-        const ReleasedPointer<xercesc::DOMLSOutput> pOutput(pImplementation->createLSOutput());
+        const ReleasedPointer<xercesc::DOMLSOutput> pOutput(
+            pImplementation->createLSOutput(pMemory));
         pOutput->setByteStream(&target);
         if (!pSerialiser->write(m_pDocument, pOutput.get()))
             return false;

@@ -1,6 +1,7 @@
 #include "KZCEkaValidItem.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "CText.h"
 #include "Fault.h"

@@ -1,0 +1,25 @@
+// Memory that runs out when a test wants it. A program that links AllocationFault.cpp has all its
+// operators new replaced, those that its shared libraries call too.
+#pragma once
+
+#include <cstddef>
+
+namespace AllocationFault {
+
+enum class Kind
+{
+    Once,       ///< that allocation alone
+    FromThere,  ///< that one and all behind it
+};
+
+/// Lets allocations fail from now on. \param nNumber  Which one fails, from 1.
+/// \param nLeastSize  Bytes; smaller ones aren't counted and don't fail.
+void Arm(std::size_t nNumber, Kind eKind, std::size_t nLeastSize = 0);
+
+/// All allocations succeed again. \return how many were counted since Arm.
+std::size_t Disarm();
+
+/// Pieces of memory that are allocated and not yet freed.
+std::size_t LivePieces();
+
+}  // namespace AllocationFault
