@@ -71,13 +71,13 @@ const DetailEntry* FindPathError(const std::vector<DetailEntry>& vecEntry, bool 
 }  // namespace
 
 FileCheck::FileCheck(KZICsvConvMokEka& library,
-                     const FormDefinitions* pForms,
+                     const Definitions& definitions,
                      const std::string& strFile)
     : m_library(library),
-      m_pForms(pForms),
+      m_definitions(definitions),
       m_strFile(strFile),
       m_source(strFile),
-      m_pForm(pForms != nullptr ? pForms->Find(m_source.Cells().TypeId()) : nullptr)
+      m_pProcedure(definitions.Find(m_source.Cells().TypeId()))
 {
 }
 
@@ -120,8 +120,8 @@ FileReport FileCheck::StartReport() const
 {
     FileReport report;
     report.strFile = m_strFile;
-    if (m_pForm != nullptr)
-        report.strProcedure = m_pForm->strProcId;
+    if (m_pProcedure != nullptr)
+        report.strProcedure = m_pProcedure->strProcId;
     if (!m_source.TextProblem())
         report.records = m_source.Cells().FilledRecordCount();
     return report;
@@ -191,8 +191,13 @@ ReportedError FileCheck::Explain(const DetailEntry& entry) const
     switch (error.eScope) {
         case ErrorScope::Cell: {
             const long lColumnEnd = std::max(entry.lColumn, entry.lColumnEnd);
-            if (m_pForm != nullptr)
-                error.strName = m_pForm->labels.Find(entry.lColumn, entry.lColumnEnd);
+            const FormDefinition* pForm =
+                m_pProcedure != nullptr
+                    ? m_pProcedure->FormAt(static_cast<std::size_t>(entry.lRecord),
+                                           m_source.Cells().RecordCount())
+                    : nullptr;
+            if (pForm != nullptr)
+                error.strName = pForm->labels.Find(entry.lColumn, entry.lColumnEnd);
             error.value = m_source.Cells().Cells(static_cast<std::size_t>(entry.lRecord),
                                                  static_cast<std::size_t>(entry.lColumn),
                                                  static_cast<std::size_t>(lColumnEnd));
@@ -204,7 +209,7 @@ ReportedError FileCheck::Explain(const DetailEntry& entry) const
                 error.value = m_strFile;
             break;
         case ErrorScope::File:
-            error.strHint = StructureHint(entry.eMessage, m_source.Cells(), m_pForms);
+            error.strHint = StructureHint(entry.eMessage, m_source.Cells(), m_definitions);
             break;
         case ErrorScope::Record:
             break;

@@ -15,9 +15,11 @@ namespace host {
 class FileCheck
 {
 public:
-    /// \param strFile  As the user gave it. \param pForms  Null if the definitions can't be read.
-    /// Both the library and the definitions are looked at for as long as the object lives.
-    FileCheck(KZICsvConvMokEka& library, const FormDefinitions* pForms, const std::string& strFile);
+    /// \param strFile  As the user gave it.
+    /// The library and the definitions are looked at for as long as the object lives.
+    FileCheck(KZICsvConvMokEka& library,
+              const Definitions& definitions,
+              const std::string& strFile);
 
     FileReport Run();
 
@@ -35,10 +37,10 @@ private:
     ReportedError Explain(const DetailEntry& entry) const;
 
     KZICsvConvMokEka& m_library;
-    const FormDefinitions* m_pForms;
+    const Definitions& m_definitions;
     std::string m_strFile;
     SourceFile m_source;
-    const FormDefinition* m_pForm;  ///< of the file's type id; null if unknown
+    const ProcedureDefinition* m_pProcedure;  ///< of the file's type id; null if unknown
 };
 
 }  // namespace host

@@ -122,12 +122,12 @@ void SettleUnmade(FileReport& report, const CsvCells& cells)
 }  // namespace
 
 FileConversion::FileConversion(KZICsvConvMokEka& library,
-                               const FormDefinitions* pForms,
+                               const Definitions& definitions,
                                const std::string& strFile,
                                const std::string& strOutput,
                                FilerFields fields)
     : m_library(library),
-      m_check(library, pForms, strFile),
+      m_check(library, definitions, strFile),
       m_strOutput(strOutput),
       m_strOutputPath(AbsolutePath(strOutput)),
       m_fields(std::move(fields))

@@ -18,7 +18,7 @@ public:
     /// this
     ///     program's.
     FileConversion(KZICsvConvMokEka& library,
-                   const FormDefinitions* pForms,
+                   const Definitions& definitions,
                    const std::string& strFile,
                    const std::string& strOutput,
                    FilerFields fields);

@@ -37,6 +37,7 @@ struct ReportedError
     DetailEntry entry;
     ErrorScope eScope = ErrorScope::File;
     std::string strName;  ///< label of the column, or name of the argument; may be empty
+    std::string strRule;  ///< in words, the rule that refused the cell; may be empty
     std::optional<std::string> value;  ///< what stands in the cell or argument; nothing if unknown
     std::string
         strHint;  ///< where in the file, as far as the code alone doesn't tell; may be empty

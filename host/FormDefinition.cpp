@@ -1,34 +1,26 @@
 #include "FormDefinition.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "CText.h"
 #include "DetailTable.h"
-#include "KZCEkaXDOM.h"
+#include "FamilyFolder.h"
+#include "KZCDefinitionManager.h"
+#include "KZCEkaCommon.h"
 #include "KZCLoadResource.h"
 
 namespace host {
 namespace {
 
-constexpr const char* DEFINITION_FILE = "KZEkaDefine.xml";
+constexpr const char* BASE_FILE = "KZEkaDefine.xml";
 constexpr const char* LABEL_SEPARATOR = " / ";
+constexpr long BASE_MAX_RECORD = 5000;
+constexpr int TYPE_ID_MAX = 999;
 
-/// Calls the function with the cursor on each child element of that name, and brings it back.
-template <class Function>
-void ForEachChild(KZCEkaXDOM& dom, const char* szName, Function function)
+long ReadNumber(const XmlElement& element, const char* szAttribute)
 {
-    if (dom.MoveFirstChild() != 0)
-        return;
-    do {
-        if (dom.GetNodeName() == szName)
-            function();
-    } while (dom.MoveNextSibling() == 0);
-    dom.MoveParent();
-}
-
-long ReadColumn(const KZCEkaXDOM& dom, const char* szAttribute)
-{
-    return CText::ReadLong(dom.GetAttribute(szAttribute).c_str());
+    return CText::ReadLong(element.Attribute(szAttribute).c_str());
 }
 
 void AppendLabel(std::string& strLabels, const std::string& strLabel)
@@ -42,25 +34,86 @@ void AppendLabel(std::string& strLabels, const std::string& strLabel)
     strLabels += strLabel;
 }
 
-void ReadItem(KZCEkaXDOM& dom, ColumnLabels& labels)
+CheckDefinition ReadCheck(const XmlElement& element, long lItemColumn)
 {
-    const std::string strLabel = dom.GetAttribute("label");
-    const long lItemColumn = ReadColumn(dom, "column");
-    labels.AddItem(lItemColumn, strLabel);
-    ForEachChild(dom, "valid", [&] {
-        const long lColumn = ReadColumn(dom, "column");
-        if (lColumn != lItemColumn)
-            labels.AddChecked(lColumn, strLabel);
-    });
+    CheckDefinition check;
+    check.strKeyword = element.Attribute("id");
+    check.strValue = element.Attribute("value");
+    check.strMin = element.Attribute("min");
+    check.strMax = element.Attribute("max");
+    check.strMessage = element.Attribute("message");
+    check.strErrColumn = element.Attribute("errcolumn");
+    check.strErrRow = element.Attribute("errrow");
+    check.lColumn = ReadNumber(element, "column");
+    if (check.lColumn <= 0)
+        check.lColumn = lItemColumn;
+    check.lLine = element.lLine;
+    for (const XmlElement& child : element.vecChild)
+        if (child.strName == "outer")
+            check.vecCondition.push_back(ReadCheck(child, 0));
+    return check;
 }
 
-FormDefinition ReadForm(KZCEkaXDOM& dom)
+ItemDefinition ReadItem(const XmlElement& element)
+{
+    ItemDefinition item;
+    item.strType = element.Attribute("type");
+    item.strId = element.Attribute("id");
+    item.strParent = element.Attribute("parent");
+    item.strLabel = element.Attribute("label");
+    item.strGeneration = element.Attribute("generation");
+    item.lColumn = std::max(0L, ReadNumber(element, "column"));
+    item.lLine = element.lLine;
+    for (const XmlElement& child : element.vecChild)
+        if (child.strName == "valid")
+            item.vecCheck.push_back(ReadCheck(child, item.lColumn));
+    return item;
+}
+
+/// A group without a column checks from the column of its first child on.
+void TakeColumnOfChild(std::vector<ItemDefinition>& vecItem)
+{
+    for (ItemDefinition& item : vecItem) {
+        if (item.lColumn > 0)
+            continue;
+        const auto child = std::ranges::find(vecItem, item.strId, &ItemDefinition::strParent);
+        if (child == vecItem.end())
+            continue;
+        for (CheckDefinition& check : item.vecCheck)
+            if (check.lColumn <= 0)
+                check.lColumn = child->lColumn;
+    }
+}
+
+ColumnLabels ReadLabels(const std::vector<ItemDefinition>& vecItem)
+{
+    ColumnLabels labels;
+    for (const ItemDefinition& item : vecItem) {
+        labels.AddItem(item.lColumn, item.strLabel);
+        for (const CheckDefinition& check : item.vecCheck)
+            if (check.lColumn != item.lColumn)
+                labels.AddChecked(check.lColumn, item.strLabel);
+    }
+    return labels;
+}
+
+FormDefinition ReadForm(const XmlElement& element)
 {
     FormDefinition form;
-    form.strTypeId = dom.GetAttribute("id");
-    form.strProcId = dom.GetAttribute("procId");
-    form.lColumnNum = ReadColumn(dom, "columnNum");
-    ForEachChild(dom, "item", [&] { ReadItem(dom, form.labels); });
+    form.strProcVR = element.Attribute("procVR");
+    form.strReportId = element.Attribute("reportId");
+    form.strReportVR = element.Attribute("reportVR");
+    form.strLabel = element.Attribute("label");
+    form.lColumnNum = ReadNumber(element, "columnNum");
+    form.lStartRow = ReadNumber(element, "startRow");
+    form.lEndRow = ReadNumber(element, "endRow");
+    form.bLastRecord = ReadNumber(element, "lastRecord") != 0;
+    form.lLine = element.lLine;
+    for (const XmlElement& child : element.vecChild)
+        if (child.strName == "item")
+            form.vecItem.push_back(ReadItem(child));
+    TakeColumnOfChild(form.vecItem);
+    form.labels = ReadLabels(form.vecItem);
     return form;
 }
 
@@ -68,6 +121,27 @@ std::string Find(const std::map<long, std::string>& mapLabel, long lColumn)
 {
     const auto it = mapLabel.find(lColumn);
     return it != mapLabel.end() ? it->second : std::string();
+}
+
+std::string TypeIdText(int nTypeId)
+{
+    const std::string strDigits = std::to_string(nTypeId);
+    return std::string(3 - strDigits.size(), '0') + strDigits;
+}
+
+CALL_TYPE CallType(Family eFamily)
+{
+    return eFamily == Family::Finance ? CALL_TYPE_FINANCE : CALL_TYPE_CROSSBORDER;
+}
+
+/// A definition file as the library looks for it, or the empty text.
+std::string FindFile(const std::string& strBundle,
+                     Family eFamily,
+                     const std::string& strProcId,
+                     const char* szEnd)
+{
+    const char* szFolder = eFamily == Family::Finance ? "/Finance" : "/CrossBorder";
+    return KZCEkaCommon::searchProperties(strBundle + szFolder, strProcId, szEnd);
 }
 
 }  // namespace
@@ -103,38 +177,129 @@ std::string ColumnLabels::FindColumn(long lColumn) const
     return !strItem.empty() ? strItem : host::Find(m_mapChecked, lColumn);
 }
 
-std::optional<FormDefinitions> FormDefinitions::Read()
+const FormDefinition* ProcedureDefinition::FormAt(std::size_t nRecord,
+                                                  std::size_t nRecordCount) const
 {
-    return Read(KZCLoadResource::getPathName(DEFINITION_FILE));
-}
-
-std::optional<FormDefinitions> FormDefinitions::Read(const std::string& strPath)
-{
-    KZCEkaXDOM dom;
-    if (strPath.empty() || !dom.Initialize() || !dom.Parse(strPath.c_str()) || dom.MoveRoot() != 0)
-        return std::nullopt;
-    FormDefinitions definitions;
-    ForEachChild(dom, "report", [&] { definitions.m_vecForm.push_back(ReadForm(dom)); });
-    return definitions;
-}
-
-const FormDefinition* FormDefinitions::Find(const std::string& strTypeId) const
-{
-    const auto it = std::ranges::find(m_vecForm, strTypeId, &FormDefinition::strTypeId);
-    return it != m_vecForm.end() ? &*it : nullptr;
-}
-
-std::string FormDefinitions::TypeIds() const
-{
-    std::string strIds;
-    for (const FormDefinition& form : m_vecForm) {
-        if (Find(form.strTypeId) != &form)
-            continue;
-        if (!strIds.empty())
-            strIds += ", ";
-        strIds += form.strTypeId;
+    if (vecForm.size() == 1)
+        return &vecForm.front();
+    if (vecForm.back().bLastRecord && nRecord == nRecordCount)
+        return &vecForm.back();
+    const auto lRecord = static_cast<long>(nRecord);
+    for (const FormDefinition& form : vecForm) {
+        const bool bOpenEnd = form.lEndRow == 0 || form.lEndRow == -1;
+        if (!form.bLastRecord && form.lStartRow <= lRecord && (bOpenEnd || lRecord <= form.lEndRow))
+            return &form;
     }
-    return strIds;
+    return nullptr;
+}
+
+struct Definitions::Cache
+{
+    bool bBaseRead = false;
+    bool bHasBase = false;
+    std::vector<ProcedureDefinition> vecBase;
+    std::map<std::pair<Family, std::string>, std::optional<ProcedureDefinition>> mapFamily;
+
+    void ReadBase(const std::string& strBundle);
+    const ProcedureDefinition* FindFamily(const std::string& strBundle,
+                                          Family eFamily,
+                                          const std::string& strTypeId);
+};
+
+void Definitions::Cache::ReadBase(const std::string& strBundle)
+{
+    if (std::exchange(bBaseRead, true) || strBundle.empty())
+        return;
+    const std::string strPath = strBundle + "/" + BASE_FILE;
+    const XmlFile file = ReadXmlFile(strPath);
+    bHasBase = file.root.has_value();
+    if (!bHasBase)
+        return;
+    for (const XmlElement& element : file.root->vecChild) {
+        const std::string& strTypeId = element.Attribute("id");
+        // The first of two with one type id counts.
+        if (element.strName != "report" ||
+            std::ranges::find(vecBase, strTypeId, &ProcedureDefinition::strTypeId) != vecBase.end())
+            continue;
+        vecBase.push_back({Family::Base,
+                           strTypeId,
+                           element.Attribute("procId"),
+                           BASE_MAX_RECORD,
+                           strPath,
+                           strPath,
+                           {ReadForm(element)}});
+    }
+}
+
+const ProcedureDefinition* Definitions::Cache::FindFamily(const std::string& strBundle,
+                                                          Family eFamily,
+                                                          const std::string& strTypeId)
+{
+    const auto [it, bNew] = mapFamily.try_emplace({eFamily, strTypeId});
+    PROC_INFO info;
+    if (bNew && !strBundle.empty() &&
+        KZCDefinitionManager::getProcInfo(strTypeId, info, CallType(eFamily))) {
+        ProcedureDefinition procedure = {
+            eFamily,
+            strTypeId,
+            info.procId,
+            static_cast<long>(info.lMaxRecord),
+            FindFile(strBundle, eFamily, info.procId, FamilyFolder::VALIDATION_FILE),
+            FindFile(strBundle, eFamily, info.procId, FamilyFolder::TEMPLATE_FILE),
+            {}};
+        if (const XmlFile file = ReadXmlFile(procedure.strPath); file.root)
+            for (const XmlElement& element : file.root->vecChild)
+                if (element.strName == "report")
+                    procedure.vecForm.push_back(ReadForm(element));
+        if (!procedure.vecForm.empty())
+            it->second = std::move(procedure);
+    }
+    return it->second ? &*it->second : nullptr;
+}
+
+Definitions::Definitions() : Definitions(KZCLoadResource::getBundlePath()) {}
+
+Definitions::Definitions(std::string strBundle)
+    : m_strBundle(std::move(strBundle)), m_pCache(std::make_unique<Cache>())
+{
+}
+
+Definitions::~Definitions() = default;
+
+const ProcedureDefinition* Definitions::Find(const std::string& strTypeId) const
+{
+    return Find(FamilyOfTypeId(strTypeId), strTypeId);
+}
+
+const ProcedureDefinition* Definitions::Find(Family eFamily, const std::string& strTypeId) const
+{
+    if (eFamily != Family::Base)
+        return m_pCache->FindFamily(m_strBundle, eFamily, strTypeId);
+    m_pCache->ReadBase(m_strBundle);
+    const auto it =
+        std::ranges::find(m_pCache->vecBase, strTypeId, &ProcedureDefinition::strTypeId);
+    return it != m_pCache->vecBase.end() ? &*it : nullptr;
+}
+
+std::vector<std::string> Definitions::TypeIds(Family eFamily) const
+{
+    std::vector<std::string> vecTypeId;
+    if (eFamily == Family::Base) {
+        m_pCache->ReadBase(m_strBundle);
+        for (const ProcedureDefinition& procedure : m_pCache->vecBase)
+            vecTypeId.push_back(procedure.strTypeId);
+        return vecTypeId;
+    }
+    for (int nTypeId = 0; nTypeId <= TYPE_ID_MAX; ++nTypeId)
+        if (FamilyOfTypeId(TypeIdText(nTypeId)) == eFamily)
+            vecTypeId.push_back(TypeIdText(nTypeId));
+    return vecTypeId;
+}
+
+bool Definitions::HasBase() const
+{
+    m_pCache->ReadBase(m_strBundle);
+    return m_pCache->bHasBase;
 }
 
 }  // namespace host

@@ -12,22 +12,31 @@ std::string Quoted(const std::string& strText)
     return "\"" + MakeSafeAndShort(strText, SHOWN_CHARACTERS) + "\"";
 }
 
-std::string ColumnCountHint(const CsvCells& cells, const FormDefinition& form)
+std::string ColumnCountHint(const CsvCells& cells, const ProcedureDefinition& procedure)
 {
     for (std::size_t n = 1; n <= cells.RecordCount(); ++n)
-        if (!cells.IsBlank(n) && static_cast<long>(cells.ColumnCount(n)) != form.lColumnNum)
+        if (!cells.IsBlank(n) &&
+            static_cast<long>(cells.ColumnCount(n)) != procedure.vecForm.front().lColumnNum)
             return "Record " + std::to_string(n) + " has " + std::to_string(cells.ColumnCount(n)) +
-                   " columns, a record of type " + form.strTypeId + " has " +
-                   std::to_string(form.lColumnNum) + ".";
+                   " columns, a record of type " + procedure.strTypeId + " has " +
+                   std::to_string(procedure.vecForm.front().lColumnNum) + ".";
     return {};
 }
 
-std::string TypeIdHint(const CsvCells& cells, const FormDefinitions& forms)
+std::string TypeIds(const Definitions& definitions)
+{
+    std::string strIds;
+    for (const std::string& strTypeId : definitions.TypeIds(Family::Base))
+        strIds += (strIds.empty() ? "" : ", ") + strTypeId;
+    return strIds;
+}
+
+std::string TypeIdHint(const CsvCells& cells, const Definitions& definitions)
 {
     const std::string strTypeId = cells.TypeId();
-    if (forms.Find(strTypeId) == nullptr)
+    if (definitions.Find(strTypeId) == nullptr)
         return "Record " + std::to_string(cells.FirstRecord().value_or(1)) + " begins with " +
-               Quoted(strTypeId) + "; the definitions know " + forms.TypeIds() + ".";
+               Quoted(strTypeId) + "; the definitions know " + TypeIds(definitions) + ".";
     for (std::size_t n = 1; n <= cells.RecordCount(); ++n)
         if (!cells.IsBlank(n) && cells.Cell(n, 1) != strTypeId)
             return "Record " + std::to_string(n) + " begins with " + Quoted(cells.Cell(n, 1)) +
@@ -39,17 +48,17 @@ std::string TypeIdHint(const CsvCells& cells, const FormDefinitions& forms)
 
 std::string StructureHint(KZCEkaMessage_t eMessage,
                           const CsvCells& cells,
-                          const FormDefinitions* pForms)
+                          const Definitions& definitions)
 {
     if (eMessage == HE70020E)
         return "It has " + std::to_string(cells.RecordCount()) + " lines.";
-    if (pForms == nullptr)
+    if (!definitions.HasBase())
         return {};
     if (eMessage == HE70021E)
-        return TypeIdHint(cells, *pForms);
-    const FormDefinition* pForm = pForms->Find(cells.TypeId());
-    return eMessage == HE70019E && pForm != nullptr ? ColumnCountHint(cells, *pForm)
-                                                    : std::string();
+        return TypeIdHint(cells, definitions);
+    const ProcedureDefinition* pProcedure = definitions.Find(cells.TypeId());
+    return eMessage == HE70019E && pProcedure != nullptr ? ColumnCountHint(cells, *pProcedure)
+                                                         : std::string();
 }
 
 }  // namespace host

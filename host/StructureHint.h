@@ -10,9 +10,8 @@
 namespace host {
 
 /// A sentence such as "Record 7 has 35 columns, a record of type 002 has 36.", or the empty text.
-/// \param pForms  Null if the definitions can't be read.
 std::string StructureHint(KZCEkaMessage_t eMessage,
                           const CsvCells& cells,
-                          const FormDefinitions* pForms);
+                          const Definitions& definitions);
 
 }  // namespace host

@@ -37,35 +37,32 @@ constexpr const char* DEFINITION = R"(<?xml version="1.0" encoding="UTF-8"?>
 class FormDefinitionTest : public testing::Test
 {
 protected:
-    FormDefinitionTest()
-        : m_forms(FormDefinitions::Read(m_folder.Write("define.xml", DEFINITION)).value())
-    {
-    }
+    FormDefinitionTest() { m_folder.Write("KZEkaDefine.xml", DEFINITION); }
 
     std::string Label(long lColumn, long lColumnEnd = SINGLE_COLUMN) const
     {
-        return m_forms.Find("002")->labels.Find(lColumn, lColumnEnd);
+        return m_definitions.Find("002")->vecForm.front().labels.Find(lColumn, lColumnEnd);
     }
 
     TempFolder m_folder;
-    FormDefinitions m_forms;
+    Definitions m_definitions{m_folder.Path()};
 };
 
 TEST_F(FormDefinitionTest, FirstReportOfATypeIdCounts)
 {
-    ASSERT_NE(m_forms.Find("002"), nullptr);
-    EXPECT_EQ(m_forms.Find("002")->strProcId, "PGE5020");
-    EXPECT_EQ(m_forms.Find("002")->lColumnNum, 9);
+    ASSERT_NE(m_definitions.Find("002"), nullptr);
+    EXPECT_EQ(m_definitions.Find("002")->strProcId, "PGE5020");
+    EXPECT_EQ(m_definitions.Find("002")->vecForm.front().lColumnNum, 9);
 }
 
 TEST_F(FormDefinitionTest, UnknownTypeIdIsNotFound)
 {
-    EXPECT_EQ(m_forms.Find("003"), nullptr);
+    EXPECT_EQ(m_definitions.Find("003"), nullptr);
 }
 
 TEST_F(FormDefinitionTest, TypeIdsStandOnceInTheOrderOfTheFile)
 {
-    EXPECT_EQ(m_forms.TypeIds(), "002, 008");
+    EXPECT_EQ(m_definitions.TypeIds(Family::Base), (std::vector<std::string>{"002", "008"}));
 }
 
 TEST_F(FormDefinitionTest, ColumnHasTheLabelOfItsItem)
@@ -106,24 +103,85 @@ TEST_F(FormDefinitionTest, RangeWithoutSuchAnItemHasTheLabelsOfItsEnds)
     EXPECT_EQ(Label(2, 7), "区分");
 }
 
+TEST_F(FormDefinitionTest, CheckHasItsParametersConditionsAndLine)
+{
+    m_folder.Write("KZEkaDefine.xml", R"(<define>
+  <report id="001" columnNum="7">
+    <item type="Date" id="D">
+      <valid id="age" value="1 2" min="3" max="4" message="HE70010E" errcolumn="5" errrow="6">
+        <outer id="exist" column="7"/>
+      </valid>
+    </item>
+    <item type="Normal" id="E" parent="D" column="2"/>
+  </report>
+</define>
+)");
+    const Definitions definitions(m_folder.Path());
+    const ItemDefinition& item = definitions.Find("001")->vecForm.front().vecItem.front();
+    ASSERT_EQ(item.vecCheck.size(), 1U);
+    const CheckDefinition& check = item.vecCheck.front();
+    EXPECT_EQ(item.lLine, 3);
+    EXPECT_EQ(check.lLine, 4);
+    EXPECT_EQ(check.strKeyword, "age");
+    EXPECT_EQ(check.strValue, "1 2");
+    EXPECT_EQ(check.strMin, "3");
+    EXPECT_EQ(check.strMax, "4");
+    EXPECT_EQ(check.strMessage, "HE70010E");
+    EXPECT_EQ(check.strErrColumn, "5");
+    EXPECT_EQ(check.strErrRow, "6");
+    EXPECT_EQ(check.lColumn, 2) << "that of the group's first child";
+    ASSERT_EQ(check.vecCondition.size(), 1U);
+    EXPECT_EQ(check.vecCondition.front().strKeyword, "exist");
+    EXPECT_EQ(check.vecCondition.front().lColumn, 7);
+    EXPECT_EQ(check.vecCondition.front().lLine, 5);
+}
+
 TEST_F(FormDefinitionTest, MissingOrTornFileGivesNothing)
 {
-    EXPECT_FALSE(FormDefinitions::Read(m_folder.Path("absent.xml")));
-    EXPECT_FALSE(FormDefinitions::Read(m_folder.Write("torn.xml", "<define><report>")));
+    const Definitions absent(m_folder.Path("absent"));
+    EXPECT_FALSE(absent.HasBase());
+    EXPECT_EQ(absent.Find("002"), nullptr);
+    EXPECT_EQ(absent.Find("101"), nullptr);
+    m_folder.Write("KZEkaDefine.xml", "<define><report>");
+    const Definitions torn(m_folder.Path());
+    EXPECT_FALSE(torn.HasBase());
+    EXPECT_EQ(torn.TypeIds(Family::Base), std::vector<std::string>());
 }
 
-TEST(FormDefinitionBundleTest, FileIsFoundInTheResourceFolder)
+TEST(FormDefinitionBundleTest, EveryProcedureOfTheShippedFolderIsFound)
+{
+    const Definitions definitions(KZEKAMOK_SOURCE_BUNDLE);
+    std::string strFound;
+    for (const Family eFamily : {Family::Base, Family::Finance, Family::CrossBorder})
+        for (const std::string& strTypeId : definitions.TypeIds(eFamily)) {
+            const ProcedureDefinition* pProcedure = definitions.Find(strTypeId);
+            ASSERT_NE(pProcedure, nullptr) << strTypeId;
+            EXPECT_EQ(pProcedure->eFamily, eFamily);
+            EXPECT_FALSE(pProcedure->strTemplatePath.empty()) << strTypeId;
+            strFound += strTypeId + " ";
+        }
+    EXPECT_EQ(strFound,
+              "001 002 003 004 005 006 007 008 009 101 102 103 104 105 106 107 108 109 110 111 "
+              "112 113 114 115 116 201 202 301 302 ");
+}
+
+TEST(FormDefinitionBundleTest, RecordsOfARangeHaveTheRangesForm)
+{
+    const Definitions definitions(KZEKAMOK_SOURCE_BUNDLE);
+    const ProcedureDefinition* pProcedure = definitions.Find("103");
+    ASSERT_NE(pProcedure, nullptr);
+    ASSERT_EQ(pProcedure->vecForm.size(), 3U);
+    EXPECT_EQ(pProcedure->FormAt(1, 5), &pProcedure->vecForm[0]);
+    EXPECT_EQ(pProcedure->FormAt(2, 5), &pProcedure->vecForm[1]);
+    EXPECT_EQ(pProcedure->FormAt(3, 5), &pProcedure->vecForm[2]);
+    EXPECT_EQ(pProcedure->FormAt(5, 5), &pProcedure->vecForm[2]);
+}
+
+TEST(FormDefinitionBundleTest, FolderIsTheOneThatTheLibraryFinds)
 {
     const Bundle bundle;
-    const auto forms = FormDefinitions::Read();
-    ASSERT_TRUE(forms);
-    EXPECT_EQ(forms->TypeIds(), "003");
-}
-
-TEST(FormDefinitionBundleTest, FolderWithoutTheFileGivesNothing)
-{
-    const Bundle bundle(std::nullopt);
-    EXPECT_FALSE(FormDefinitions::Read());
+    const Definitions definitions;
+    EXPECT_EQ(definitions.TypeIds(Family::Base), std::vector<std::string>({"003"}));
 }
 
 }  // namespace

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "Options.h"
+#include "FilerOptions.h"
 #include "UsageError.h"
 #include "support/ShiftJisText.h"
 #include "support/TempFolder.h"

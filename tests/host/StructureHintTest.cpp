@@ -16,18 +16,15 @@ constexpr const char* DEFINITION = R"(<define>
 class StructureHintTest : public testing::Test
 {
 protected:
-    StructureHintTest()
-        : m_forms(FormDefinitions::Read(m_folder.Write("define.xml", DEFINITION)).value())
-    {
-    }
+    StructureHintTest() { m_folder.Write("KZEkaDefine.xml", DEFINITION); }
 
     std::string Hint(KZCEkaMessage_t eMessage, const char* szCsv) const
     {
-        return StructureHint(eMessage, CsvCells(szCsv), &m_forms);
+        return StructureHint(eMessage, CsvCells(szCsv), m_definitions);
     }
 
     TempFolder m_folder;
-    FormDefinitions m_forms;
+    Definitions m_definitions{m_folder.Path()};
 };
 
 TEST_F(StructureHintTest, WrongColumnCountNamesTheFirstRecordThatHasIt)
@@ -65,7 +62,7 @@ TEST_F(StructureHintTest, CellErrorHasNoHint)
 
 TEST_F(StructureHintTest, WithoutDefinitionsThereIsNoHint)
 {
-    EXPECT_EQ(StructureHint(HE70019E, CsvCells("002,a"), nullptr), "");
+    EXPECT_EQ(StructureHint(HE70019E, CsvCells("002,a"), Definitions("")), "");
 }
 
 }  // namespace

@@ -12,6 +12,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work" || exit 1
 unset NO_COLOR
+export LC_ALL=C
 
 # Runs kzekamok; leaves its output in the files out and err and its status in $status.
 run() {

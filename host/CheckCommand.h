@@ -1,0 +1,23 @@
+// `kzekamok check`
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Command.h"
+#include "ReportOptions.h"
+
+namespace host {
+
+class CheckCommand final : public Command
+{
+public:
+    CLI::App* AddTo(CLI::App& app) override;
+    ExitStatus Run() override;
+
+private:
+    ReportOptions m_report;
+    std::vector<std::string> m_vecFile;
+};
+
+}  // namespace host

@@ -1,0 +1,27 @@
+// `kzekamok convert`
+#pragma once
+
+#include <string>
+
+#include "Command.h"
+#include "FilerOptions.h"
+#include "ReportOptions.h"
+
+namespace host {
+
+class ConvertCommand final : public Command
+{
+public:
+    CLI::App* AddTo(CLI::App& app) override;
+    void Finish() override;
+    ExitStatus Run() override;
+
+private:
+    ReportOptions m_report;
+    FilerOptions m_filer;
+    std::string m_strFile;
+    std::string m_strOutput;
+    FilerFields m_fields;
+};
+
+}  // namespace host

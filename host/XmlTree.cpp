@@ -1,0 +1,148 @@
+#include "XmlTree.h"
+
+#include <algorithm>
+#include <memory>
+#include <string_view>
+#include <utility>
+
+#include <xercesc/framework/MemBufInputSource.hpp>
+#include <xercesc/sax/Locator.hpp>
+#include <xercesc/sax/SAXParseException.hpp>
+#include <xercesc/sax2/Attributes.hpp>
+#include <xercesc/sax2/DefaultHandler.hpp>
+#include <xercesc/sax2/SAX2XMLReader.hpp>
+#include <xercesc/sax2/XMLReaderFactory.hpp>
+#include <xercesc/util/SecurityManager.hpp>
+#include <xercesc/util/XMLException.hpp>
+#include <xercesc/util/XMLUni.hpp>
+
+#include "KZCMacOSNative.h"
+#include "XercesGuards.h"
+
+namespace host {
+namespace {
+
+constexpr std::size_t MAX_DEPTH = 100;  ///< a definition file has five levels
+constexpr XMLSize_t MAX_ENTITY_EXPANSIONS = 100;
+
+/// The file is well-formed, but not to be read.
+struct Unreadable
+{
+    const char* szMessage;
+};
+
+class TreeBuilder final : public xercesc::DefaultHandler
+{
+public:
+    void setDocumentLocator(const xercesc::Locator* const locator) override
+    {
+        m_pLocator = locator;
+    }
+
+    void startElement(const XMLCh* const /*uri*/,
+                      const XMLCh* const /*localname*/,
+                      const XMLCh* const qname,
+                      const xercesc::Attributes& attrs) override
+    {
+        if (m_vecOpen.size() >= MAX_DEPTH)
+            throw Unreadable{"elements are nested too deep"};
+        XmlElement element;
+        element.strName = XMLChToChar(qname).Get();
+        element.lLine = static_cast<long>(m_pLocator->getLineNumber());
+        for (XMLSize_t n = 0; n < attrs.getLength(); ++n)
+            element.mapAttribute.emplace(XMLChToChar(attrs.getQName(n)).Get(),
+                                         XMLChToChar(attrs.getValue(n)).Get());
+        m_vecOpen.push_back(std::move(element));
+    }
+
+    void endElement(const XMLCh* const /*uri*/,
+                    const XMLCh* const /*localname*/,
+                    const XMLCh* const /*qname*/) override
+    {
+        XmlElement element = std::move(m_vecOpen.back());
+        m_vecOpen.pop_back();
+        if (m_vecOpen.empty())
+            m_root = std::move(element);
+        else
+            m_vecOpen.back().vecChild.push_back(std::move(element));
+    }
+
+    /// No grammar is needed in a definition file, and one costs more than it is worth.
+    void startDTD(const XMLCh* const /*name*/,
+                  const XMLCh* const /*publicId*/,
+                  const XMLCh* const /*systemId*/) override
+    {
+        throw Unreadable{"a document type declaration stands in it"};
+    }
+
+    void fatalError(const xercesc::SAXParseException& exception) override { throw exception; }
+
+    std::optional<XmlElement> TakeRoot() { return std::move(m_root); }
+    long Line() const
+    {
+        return m_pLocator != nullptr ? static_cast<long>(m_pLocator->getLineNumber()) : 0;
+    }
+
+private:
+    const xercesc::Locator* m_pLocator = nullptr;
+    std::vector<XmlElement> m_vecOpen;
+    std::optional<XmlElement> m_root;
+};
+
+void Parse(const std::string& strBytes, XmlFile& file)
+{
+    TreeBuilder builder;
+    const std::unique_ptr<xercesc::SAX2XMLReader> pReader(
+        xercesc::XMLReaderFactory::createXMLReader());
+    xercesc::SecurityManager security;
+    security.setEntityExpansionLimit(MAX_ENTITY_EXPANSIONS);
+    pReader->setProperty(xercesc::XMLUni::fgXercesSecurityManager, &security);
+    pReader->setFeature(xercesc::XMLUni::fgSAX2CoreValidation, false);
+    pReader->setFeature(xercesc::XMLUni::fgXercesLoadExternalDTD, false);
+    pReader->setFeature(xercesc::XMLUni::fgXercesDisableDefaultEntityResolution, true);
+    pReader->setContentHandler(&builder);
+    pReader->setErrorHandler(&builder);
+    pReader->setLexicalHandler(&builder);
+    const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(strBytes.data()),
+                                            strBytes.size(), "definition");
+    try {
+        pReader->parse(source);
+        file.root = builder.TakeRoot();
+    } catch (const xercesc::SAXParseException& exception) {
+        file.problem = {XMLChToChar(exception.getMessage()).Get(),
+                        static_cast<long>(exception.getLineNumber())};
+    } catch (const xercesc::XMLException& exception) {
+        file.problem = {XMLChToChar(exception.getMessage()).Get(), builder.Line()};
+    } catch (const Unreadable& reason) {
+        file.problem = {reason.szMessage, builder.Line()};
+    }
+}
+
+}  // namespace
+
+const std::string& XmlElement::Attribute(std::string_view strAttribute) const
+{
+    static const std::string NONE;
+    const auto it = mapAttribute.find(strAttribute);
+    return it != mapAttribute.end() ? it->second : NONE;
+}
+
+bool XmlElement::Has(std::string_view strAttribute) const
+{
+    return mapAttribute.contains(strAttribute);
+}
+
+XmlFile ReadXmlFile(const std::string& strPath)
+{
+    XmlFile file;
+    std::string strBytes;
+    if (!KZCMacOSNative::readFile(strPath.c_str(), strBytes)) {
+        file.problem.strMessage = "the file is missing or can't be read";
+        return file;
+    }
+    const XercesSession session;
+    Parse(strBytes, file);
+    return file;
+}
+
+}  // namespace host

@@ -1,0 +1,40 @@
+// An XML file as elements that know their lines, for display and for finding mistakes.
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host {
+
+struct XmlElement
+{
+    std::string strName;
+    std::map<std::string, std::string, std::less<>> mapAttribute;  ///< in UTF-8
+    long lLine = 0;  ///< of the start tag's end, from 1
+    std::vector<XmlElement> vecChild;
+
+    /// Empty for an attribute that isn't there.
+    const std::string& Attribute(std::string_view strName) const;
+    bool Has(std::string_view strName) const;
+};
+
+/// Why a file isn't XML.
+struct XmlProblem
+{
+    std::string strMessage;  ///< the parser's own, in English
+    long lLine = 0;          ///< 0 if it isn't known
+};
+
+struct XmlFile
+{
+    std::optional<XmlElement> root;  ///< nothing if the file can't be read or parsed
+    XmlProblem problem;
+};
+
+/// Nothing outside the file is ever fetched. Elements nested too deeply are a problem.
+XmlFile ReadXmlFile(const std::string& strPath);
+
+}  // namespace host
