@@ -1,24 +1,41 @@
 # What `cmake --install` puts where. Users of the package need nothing of Xerces-C++ to build.
+#
+# Components, for those who want a part (`cmake --install BUILD --component NAME`):
+#   runtime            the library and its resource folder
+#   development        headers, CMake package, pkg-config file, the link for the linker
+#   host               the command-line program
+#   manual, documents  its manual page; readme, changes and licence
+#   objc, objc_development   as the first two, for the Objective-C classes, so that a package of the
+#                      rest needs no Objective-C run-time
 include(CMakePackageConfigHelpers)
 
 set(strPackageDir "${CMAKE_INSTALL_LIBDIR}/cmake/KZEkaMok")
 
 install(TARGETS KZEkaMok EXPORT KZEkaMokTargets
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/KZEkaMok"
-    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-    FILES_MATCHING PATTERN "*.h")
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+        COMPONENT runtime NAMELINK_COMPONENT development)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/resources/KZEkaMok.bundle"
-    DESTINATION "${CMAKE_INSTALL_DATADIR}/KZEkaMok")
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/KZEkaMok" COMPONENT runtime)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/KZEkaMok"
+    DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT development
+    FILES_MATCHING PATTERN "*.h")
+install(FILES
+    "${PROJECT_SOURCE_DIR}/LICENSE"
+    "${PROJECT_SOURCE_DIR}/README.md"
+    "${PROJECT_SOURCE_DIR}/CHANGELOG.md"
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents)
 
 if(TARGET kzekamok)
     cmake_path(RELATIVE_PATH CMAKE_INSTALL_FULL_LIBDIR
         BASE_DIRECTORY "${CMAKE_INSTALL_FULL_BINDIR}" OUTPUT_VARIABLE strLibraryFromProgram)
     set_target_properties(kzekamok PROPERTIES INSTALL_RPATH "$ORIGIN/${strLibraryFromProgram}")
-    install(TARGETS kzekamok RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+    install(TARGETS kzekamok RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT host)
+    install(FILES "${PROJECT_SOURCE_DIR}/host/kzekamok.1"
+        DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT manual)
 endif()
 
-install(EXPORT KZEkaMokTargets NAMESPACE KZEkaMok:: DESTINATION "${strPackageDir}")
+install(EXPORT KZEkaMokTargets NAMESPACE KZEkaMok::
+    DESTINATION "${strPackageDir}" COMPONENT development)
 configure_package_config_file("${PROJECT_SOURCE_DIR}/cmake/KZEkaMokConfig.cmake.in"
     "${PROJECT_BINARY_DIR}/package/KZEkaMokConfig.cmake"
     INSTALL_DESTINATION "${strPackageDir}")
@@ -27,7 +44,7 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/package/KZEkaMokConfigVe
 install(FILES
     "${PROJECT_BINARY_DIR}/package/KZEkaMokConfig.cmake"
     "${PROJECT_BINARY_DIR}/package/KZEkaMokConfigVersion.cmake"
-    DESTINATION "${strPackageDir}")
+    DESTINATION "${strPackageDir}" COMPONENT development)
 
 # The prefix is told from where the file lies, so a moved tree keeps working.
 set(strPkgConfigDir "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig")
@@ -39,19 +56,19 @@ cmake_path(APPEND strPkgConfigIncludeDir "\${prefix}" "${CMAKE_INSTALL_INCLUDEDI
 configure_file("${PROJECT_SOURCE_DIR}/cmake/KZEkaMok.pc.in"
     "${PROJECT_BINARY_DIR}/package/KZEkaMok.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/package/KZEkaMok.pc"
-    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+    DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT development)
 
-# A component, so that a package of the rest needs no Objective-C run-time.
 if(TARGET KZEkaMokObjC)
     install(TARGETS KZEkaMokObjC EXPORT KZEkaMokObjCTargets
-        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT objc)
+        LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+            COMPONENT objc NAMELINK_COMPONENT objc_development)
     install(DIRECTORY "${PROJECT_SOURCE_DIR}/objc/include/KZEkaMok"
-        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT objc
+        DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" COMPONENT objc_development
         FILES_MATCHING PATTERN "*.h")
     install(EXPORT KZEkaMokObjCTargets NAMESPACE KZEkaMok::
-        DESTINATION "${strPackageDir}" COMPONENT objc)
+        DESTINATION "${strPackageDir}" COMPONENT objc_development)
     configure_file("${PROJECT_SOURCE_DIR}/cmake/KZEkaMokObjC.pc.in"
         "${PROJECT_BINARY_DIR}/package/KZEkaMokObjC.pc" @ONLY)
     install(FILES "${PROJECT_BINARY_DIR}/package/KZEkaMokObjC.pc"
-        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT objc)
+        DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig" COMPONENT objc_development)
 endif()

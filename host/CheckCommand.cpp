@@ -5,26 +5,35 @@
 #include <CLI/CLI.hpp>
 
 #include "CheckFile.h"
+#include "FamilyOption.h"
+#include "Language.h"
 #include "ReportRun.h"
 
 namespace host {
 namespace {
 
-constexpr const char* EXAMPLES = R"(Examples:
+constexpr Text SUMMARY = {"Checks CSV files and tells their errors",
+                          "CSVファイルを検査してエラーを示します"};
+constexpr Text FILE_HELP = {"CSV files (.csv, .CSV, .txt, .TXT)",
+                            "CSVファイル（.csv、.CSV、.txt、.TXT）"};
+constexpr Text EXAMPLES = {R"(Examples:
   kzekamok check accounts.csv
   kzekamok check --limit 20 accounts.csv
-  kzekamok check --format json *.csv > report.json)";
+  kzekamok check --format json *.csv > report.json)",
+                           R"(例：
+  kzekamok check accounts.csv
+  kzekamok check --limit 20 accounts.csv
+  kzekamok check --format json *.csv > report.json)"};
 
 }  // namespace
 
 CLI::App* CheckCommand::AddTo(CLI::App& app)
 {
-    CLI::App* pCommand = app.add_subcommand("check", "Checks CSV files and tells their errors");
-    pCommand->add_option("FILE", m_vecFile, "CSV files (.csv, .CSV, .txt, .TXT)")
-        ->type_name("")
-        ->required();
+    CLI::App* pCommand = app.add_subcommand("check", Say(SUMMARY));
+    pCommand->add_option("FILE", m_vecFile, Say(FILE_HELP))->type_name("")->required();
+    AddFamilyOption(*pCommand, m_family);
     AddReportOptions(*pCommand, m_report);
-    pCommand->footer(EXAMPLES);
+    pCommand->footer(Say(EXAMPLES));
     return pCommand;
 }
 
@@ -34,7 +43,7 @@ ExitStatus CheckCommand::Run()
     ReportRun run("check", m_report);
     for (const std::string& strFile : m_vecFile) {
         KZICsvConvMokEka library;
-        run.Add(FileCheck(library, definitions, strFile).Run());
+        run.Add(FileCheck(library, definitions, strFile, m_family).Run());
         library.Terminate();
     }
     return run.Finish();

@@ -1,10 +1,12 @@
 // `kzekamok check`
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "Command.h"
+#include "Family.h"
 #include "ReportOptions.h"
 
 namespace host {
@@ -17,6 +19,7 @@ public:
 
 private:
     ReportOptions m_report;
+    std::optional<Family> m_family;
     std::vector<std::string> m_vecFile;
 };
 

@@ -1,13 +1,13 @@
 // Checks one file by the library.
 #pragma once
 
+#include <optional>
 #include <string>
 
+#include "FamilyOperations.h"
 #include "FileReport.h"
 #include "FormDefinition.h"
 #include "SourceFile.h"
-
-class KZICsvConvMokEka;
 
 namespace host {
 
@@ -16,14 +16,17 @@ class FileCheck
 {
 public:
     /// \param strFile  As the user gave it.
+    /// \param family  Whose operations take the file; nothing: that of its first record's type id.
     /// The library and the definitions are looked at for as long as the object lives.
     FileCheck(KZICsvConvMokEka& library,
               const Definitions& definitions,
-              const std::string& strFile);
+              const std::string& strFile,
+              std::optional<Family> family = std::nullopt);
 
     FileReport Run();
 
     const SourceFile& Source() const { return m_source; }
+    const FamilyOperations& Operations() const { return m_operations; }
     /// The library's errors with all that is known about them.
     std::vector<ReportedError> Explain(const std::vector<DetailEntry>& vecEntry) const;
     /// Makes a report of a file that wasn't checked to its end.
@@ -35,11 +38,12 @@ private:
     FileReport StartReport() const;
     FileReport Judge(const std::vector<DetailEntry>& vecEntry) const;
     ReportedError Explain(const DetailEntry& entry) const;
+    void ExplainCell(ReportedError& error) const;
 
-    KZICsvConvMokEka& m_library;
     const Definitions& m_definitions;
     std::string m_strFile;
     SourceFile m_source;
+    FamilyOperations m_operations;
     const ProcedureDefinition* m_pProcedure;  ///< of the file's type id; null if unknown
 };
 

@@ -1,7 +1,14 @@
 #include "Commands.h"
 
+#include "BatchCommand.h"
 #include "CheckCommand.h"
 #include "ConvertCommand.h"
+#include "ExplainCommand.h"
+#include "LayoutCommand.h"
+#include "LintCommand.h"
+#include "NewCommand.h"
+#include "RulesCommand.h"
+#include "SplitCommand.h"
 
 namespace host {
 namespace {
@@ -16,6 +23,13 @@ std::unique_ptr<Command> Make()
 constexpr std::unique_ptr<Command> (*COMMANDS[])() = {
     Make<CheckCommand>,
     Make<ConvertCommand>,
+    Make<BatchCommand>,
+    Make<ExplainCommand>,
+    Make<LayoutCommand>,
+    Make<RulesCommand>,
+    Make<NewCommand>,
+    Make<SplitCommand>,
+    Make<LintCommand>,
 };
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "Command.h"
+#include "ConvertFile.h"
 #include "FilerOptions.h"
 #include "ReportOptions.h"
 
@@ -22,6 +23,7 @@ private:
     std::string m_strFile;
     std::string m_strOutput;
     FilerFields m_fields;
+    ConversionOptions m_options;
 };
 
 }  // namespace host

@@ -1,7 +1,7 @@
 #include "ConvertFile.h"
 
-#include <KZEkaMok/KZEkaMok.h>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -13,6 +13,7 @@
 
 #include "Advice.h"
 #include "Installation.h"
+#include "Language.h"
 #include "SafeText.h"
 
 namespace fs = std::filesystem;
@@ -22,57 +23,136 @@ namespace {
 
 constexpr const char* SOFT_NAME_DEFAULT = "kzekamok " KZEKAMOK_VERSION_SHORT;
 constexpr long NO_ARGUMENT = std::numeric_limits<long>::max();
-constexpr std::int64_t PROBE_KEY = 1;
 
-/// Why a document can't be written to the path, as the system puts it.
+constexpr Text DRY_RUN = {"Dry run: the document was made, but no file was written.",
+                          "試行（--dry-run）です。文書は作成できましたが、書き込んでいません。"};
+constexpr Text DISK_FULL = {"the disk may be full", "ディスクがいっぱいかもしれません"};
+constexpr Text NOT_READ_AGAIN = {"The file passed the check, but could not be read a second time.",
+                                 "検査には合格しましたが、再度の読み取りに失敗しました。"};
+constexpr Text LEAVE_IN_PLACE = {"Leave it in place while it is converted.",
+                                 "変換が終わるまでファイルを動かさないでください。"};
+constexpr Text NO_FOLDER = {"The document could not be written to {1}.",
+                            "文書を {1} に書き込めませんでした。"};
+constexpr Text NAME_A_FOLDER = {"Name an output in a folder that exists.",
+                                "存在するフォルダーを出力先にしてください。"};
+constexpr Text NO_SUCH_FOLDER = {"The folder of the output does not exist.",
+                                 "出力先のフォルダーがありません。"};
+constexpr Text WRONG_FIELDS = {"The file passed the check, but fields of the filer are not valid.",
+                               "検査には合格しましたが、納税者の項目に誤りがあります。"};
+constexpr Text CORRECT_FIELDS = {
+    "Correct the options named above, or the keys of the same name in the profile.",
+    "上に挙げたオプション、またはプロファイルの同じ名前のキーを直してください。"};
+constexpr Text FOREIGN_FIELD = {
+    "The file passed the check, but {1} is no field of its family ({2}).",
+    "検査には合格しましたが、{1} はこのファイルの系列（{2}）にない項目です。"};
+constexpr Text LEAVE_OUT_FIELD = {
+    "Leave the option out. A profile may hold the field: it is passed over where it isn't needed.",
+    "このオプションを外してください。"
+    "プロファイルにあるだけなら、不要な系列では無視されます。"};
+constexpr Text TOO_LARGE = {"The file passed the check, but its document would be too large.",
+                            "検査には合格しましたが、文書が大きくなりすぎます。"};
+constexpr Text UNMADE = {"The file passed the check, but no document could be made from it.",
+                         "検査には合格しましたが、文書を作成できませんでした。"};
+constexpr Text FAULTY_DEFINITION = {"The definition of its form may be faulty.",
+                                    "帳票の定義ファイルが誤っているかもしれません。"};
+constexpr Text HARMFUL_CELL = {
+    "The value at record {1}, column {2} holds a control character or one of <![CDATA[, <!-- and "
+    "<?, which mean something in XML. Correct it.",
+    "レコード{1}の項目{2}の値に、制御文字か、XMLで特別な意味をもつ <![CDATA[、<!--、<? の"
+    "いずれかがあります。直してください。"};
+constexpr Text NOT_WRITTEN = {"The document was made, but could not be written to {1}: {2}.",
+                              "文書は作成できましたが、{1} に書き込めませんでした：{2}。"};
+constexpr Text NOT_OPENED = {"The document could not be written to {1}: {2}.",
+                             "文書を {1} に書き込めませんでした：{2}。"};
+constexpr Text NAME_ANOTHER = {
+    "Free some space, or name another output. Nothing was left there; a document that stood there "
+    "before is unchanged.",
+    "空きを増やすか、ほかの出力先にしてください。書きかけの文書は残っていません。"
+    "以前からの文書があれば、そのまま残っています。"};
+constexpr Text HALF_WRITTEN = {
+    "Free some space, or name another output. Whatever stands there now is no document to file.",
+    "空きを増やすか、ほかの出力先にしてください。"
+    "いま出力先にあるものは提出できる文書ではありません。"};
+constexpr Text NOT_BOTH_NUMBERS = {
+    "Give --kojin-bango or --hojin-bango, not both.",
+    "--kojin-bango と --hojin-bango は、どちらか一方だけを指定してください。"};
+constexpr Text OTHER_PROCEDURE = {"The file is of procedure {1}.", "ファイルの手続は{1}です。"};
+constexpr Text DAY_NEEDED = {
+    "Files of this family need the day of filing; --teishutsu-date YYYY-MM-DD gives all of it.",
+    "この系列のファイルには提出日が必要です。--teishutsu-date YYYY-MM-DD でまとめて指定できます。"};
+constexpr Text HALF_ZIP = {
+    "Give both parts of the postal code, or neither.",
+    "郵便番号は、上3桁と下4桁の両方を指定するか、どちらも指定しないでください。"};
+
+/// Why the library couldn't write to the path, as the system puts it.
 std::string WriteProblem(const std::string& strPath)
 {
     const int nFile = open(strPath.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC);
     if (nFile >= 0)
         close(nFile);
-    const bool bMissing = nFile < 0 && errno == ENOENT;
-    if (nFile < 0 && !bMissing)
-        return std::strerror(errno);
-    if (bMissing && access(fs::path(strPath).parent_path().c_str(), W_OK | X_OK) != 0)
-        return std::strerror(errno);
-    return "the disk may be full";
+    return nFile < 0 ? std::strerror(errno) : Say(DISK_FULL);
+}
+
+bool IsDeviceOrPipe(const std::string& strPath)
+{
+    struct stat info = {};
+    return stat(strPath.c_str(), &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
+}
+
+/// Where the library writes: for a dry run never to a device or a pipe.
+std::string DocumentPath(const std::string& strOutput, bool bDryRun)
+{
+    std::string strPath = AbsolutePath(strOutput);
+    std::error_code error;
+    return bDryRun && IsDeviceOrPipe(strPath)
+               ? (fs::temp_directory_path(error) / fs::path(strPath).filename()).string()
+               : strPath;
 }
 
 /// What a cell may hold that has a meaning of its own in XML, where it isn't escaped.
-bool IsHarmfulInXml(const std::string& strValue)
+bool IsHarmfulInXml(const std::string& strValue, bool bLineEnds)
 {
     for (const char* szMark : {"<![CDATA[", "<!--", "<?"})
         if (strValue.find(szMark) != std::string::npos)
             return true;
-    return std::ranges::any_of(strValue, [](char c) {
-        const auto n = static_cast<unsigned char>(c);
-        return n < 0x20 && c != '\t';
+    return std::ranges::any_of(strValue, [bLineEnds](char c) {
+        const bool bHarmless = c == '\t' || (bLineEnds && (c == '\r' || c == '\n'));
+        return static_cast<unsigned char>(c) < 0x20 && !bHarmless;
     });
 }
 
-/// "record 3, column 5" of the first harmful cell, or the empty text.
-std::string FindHarmfulCell(const CsvCells& cells)
+/// Advice about the first harmful cell, or the empty text.
+std::string HarmfulCellAdvice(const CsvCells& cells)
 {
+    const bool bLineEnds = cells.FamilyOfCells() == Family::CrossBorder;  // inside quotes
     for (std::size_t nRecord = 1; nRecord <= cells.RecordCount(); ++nRecord)
         for (std::size_t nColumn = 1; nColumn <= cells.ColumnCount(nRecord); ++nColumn)
-            if (IsHarmfulInXml(cells.Cell(nRecord, nColumn)))
-                return "record " + std::to_string(nRecord) + ", column " + std::to_string(nColumn);
+            if (IsHarmfulInXml(cells.Cell(nRecord, nColumn), bLineEnds))
+                return Say(HARMFUL_CELL, {std::to_string(nRecord), std::to_string(nColumn)});
     return {};
 }
 
 /// Why a field is refused that is not wrong by itself.
-std::string FieldHint(FilerField eField, const std::string& strProcedure)
+std::string FieldHint(FilerField eField, KZCEkaMessage_t eMessage, const FileReport& report)
 {
-    if (eField == KOJIN_BANGO || eField == HOJIN_BANGO)
-        return "Give --kojin-bango or --hojin-bango, not both.";
-    if (eField == TETSUZUKI)
-        return "The file is of procedure " + strProcedure + ".";
-    return {};
-}
-
-bool Passed(const std::shared_ptr<KZIConvertResultEka>& pResult)
-{
-    return pResult && pResult->GetResult() == PROCESS_OK;
+    switch (eField) {
+        case KOJIN_BANGO:
+        case HOJIN_BANGO:
+            return eMessage == HE70010E ? Say(NOT_BOTH_NUMBERS) : std::string();
+        case TETSUZUKI:
+            return eMessage == HE70010E ? Say(OTHER_PROCEDURE, {report.strProcedure})
+                                        : std::string();
+        case TEISHUTSU_ERA:
+        case TEISHUTSU_YEAR:
+        case TEISHUTSU_MONTH:
+        case TEISHUTSU_DAY:
+            return eMessage == HE70001E ? Say(DAY_NEEDED) : std::string();
+        case NOZEISHA_ZIP1:
+        case NOZEISHA_ZIP2:
+            return eMessage == HE70001E ? Say(HALF_ZIP) : std::string();
+        default:
+            return {};
+    }
 }
 
 bool Holds(const std::vector<DetailEntry>& vecEntry, KZCEkaMessage_t eMessage)
@@ -106,17 +186,12 @@ void Settle(FileReport& report,
 /// the definition.
 void SettleUnmade(FileReport& report, const CsvCells& cells)
 {
-    const std::string strCell = FindHarmfulCell(cells);
-    const std::string strProblem =
-        "The file passed the check, but no document could be made from it.";
-    if (strCell.empty())
-        Settle(report, Outcome::NotChecked, ExitStatus::NotChecked, strProblem,
-               std::string("The definition of its form may be faulty. ") + LOG_ADVICE);
+    const std::string strAdvice = HarmfulCellAdvice(cells);
+    if (strAdvice.empty())
+        Settle(report, Outcome::NotChecked, ExitStatus::NotChecked, Say(UNMADE),
+               std::string(Say(FAULTY_DEFINITION)) + ' ' + Say(LOG_ADVICE));
     else
-        Settle(report, Outcome::NotConverted, ExitStatus::Refused, strProblem,
-               "The value at " + strCell +
-                   " holds a control character or one of <![CDATA[, <!-- and <?, which mean "
-                   "something in XML. Correct it.");
+        Settle(report, Outcome::NotConverted, ExitStatus::Refused, Say(UNMADE), strAdvice);
 }
 
 }  // namespace
@@ -125,12 +200,12 @@ FileConversion::FileConversion(KZICsvConvMokEka& library,
                                const Definitions& definitions,
                                const std::string& strFile,
                                const std::string& strOutput,
-                               FilerFields fields)
-    : m_library(library),
-      m_check(library, definitions, strFile),
+                               FilerFields fields,
+                               const ConversionOptions& options)
+    : m_check(library, definitions, strFile, options.family),
       m_strOutput(strOutput),
-      m_strOutputPath(AbsolutePath(strOutput)),
-      m_fields(std::move(fields))
+      m_fields(std::move(fields)),
+      m_options(options)
 {
 }
 
@@ -139,6 +214,11 @@ FileReport FileConversion::Run()
     FileReport report = m_check.Run();
     if (report.eOutcome != Outcome::Passed)
         return report;
+    if (const std::string strOption = ForeignOption(); !strOption.empty()) {
+        Settle(report, Outcome::NotConverted, ExitStatus::Usage,
+               Say(FOREIGN_FIELD, {strOption, FamilyName(report.eFamily)}), Say(LEAVE_OUT_FIELD));
+        return report;
+    }
     if (m_fields[TETSUZUKI].empty())
         m_fields[TETSUZUKI] = report.strProcedure;
     if (m_fields[SOFT_NAME].empty())
@@ -148,55 +228,64 @@ FileReport FileConversion::Run()
 
 FileReport FileConversion::Convert(FileReport report)
 {
-    const auto pResult = m_library.CsvConvMok(
-        m_check.Source().LibraryPath().c_str(), m_strOutputPath.c_str(),
-        m_fields[ZEIMUSHO_CD].c_str(), m_fields[NOZEISHA_ID].c_str(), m_fields[KOJIN_BANGO].c_str(),
-        m_fields[HOJIN_BANGO].c_str(), m_fields[NOZEISHA_NM].c_str(),
-        m_fields[NOZEISHA_ADR].c_str(), m_fields[DAIHYO_NM].c_str(), m_fields[DAIRI_ID].c_str(),
-        m_fields[DAIRI_NM].c_str(), m_fields[DAIRI_ADR].c_str(), m_fields[TETSUZUKI].c_str(),
-        m_fields[SOFT_NAME].c_str());
+    PendingDocument document(DocumentPath(m_strOutput, m_options.bDryRun));
+    if (const std::string strReason = document.Open(); !strReason.empty()) {
+        Settle(report, Outcome::NotWritten, ExitStatus::NotWritten,
+               Say(NOT_OPENED, {MakeSafe(m_strOutput), strReason}), Say(NAME_ANOTHER));
+        return report;
+    }
+    const auto pResult =
+        m_check.Operations().Convert(m_check.Source().LibraryPath(), document.Path(), m_fields);
     if (!Passed(pResult))
         return Judge(std::move(report),
-                     ParseDetailTable(pResult ? pResult->GetDetailErrorInfo() : std::string()));
+                     ParseDetailTable(pResult ? pResult->GetDetailErrorInfo() : std::string()),
+                     document);
+    return Keep(std::move(report), document);
+}
 
-    std::error_code error;
-    const auto nBytes = fs::file_size(m_strOutputPath, error);
-    // A device has no size, and what it did with the document can't be seen.
-    if (error && fs::exists(m_strOutputPath))
-        error.clear();
-    if (error)
-        return NotWritten(std::move(report));
+FileReport FileConversion::Keep(FileReport report, PendingDocument& document)
+{
+    report.document = WrittenDocument{m_strOutput, document.Size()};
+    if (m_options.bDryRun) {
+        report.eOutcome = Outcome::Convertible;
+        report.strNote = Say(DRY_RUN);
+        return report;
+    }
+    if (const std::string strReason = document.Keep(); !strReason.empty()) {
+        report.document.reset();
+        return NotWritten(std::move(report), strReason);
+    }
     report.eOutcome = Outcome::Converted;
-    report.document = WrittenDocument{m_strOutput, nBytes};
     return report;
 }
 
-FileReport FileConversion::Judge(FileReport report, const std::vector<DetailEntry>& vecEntry)
+FileReport FileConversion::Judge(FileReport report,
+                                 const std::vector<DetailEntry>& vecEntry,
+                                 const PendingDocument& document)
 {
     report.vecError = m_check.Explain(vecEntry);
     ExplainArguments(report);
 
     const long lArgument = FirstArgument(vecEntry);
     if (lArgument == CSV_PATH_ARGUMENT)
-        Settle(report, Outcome::NotChecked, ExitStatus::NotChecked,
-               "The file passed the check, but could not be read a second time.",
-               "Leave it in place while it is converted.");
+        Settle(report, Outcome::NotChecked, ExitStatus::NotChecked, Say(NOT_READ_AGAIN),
+               Say(LEAVE_IN_PLACE));
     else if (lArgument == MOK_PATH_ARGUMENT)
         Settle(report, Outcome::NotWritten, ExitStatus::NotWritten,
-               "The document could not be written to " + MakeSafe(m_strOutput) + ".",
-               "Name an output in a folder that exists.");
+               Say(NO_FOLDER, {MakeSafe(m_strOutput)}), Say(NAME_A_FOLDER));
     else if (lArgument != NO_ARGUMENT)
-        Settle(report, Outcome::NotConverted, ExitStatus::Usage,
-               "The file passed the check, but fields of the filer are not valid.",
-               "Correct the options named above, or the keys of the same name in the profile.");
+        Settle(report, Outcome::NotConverted, ExitStatus::Usage, Say(WRONG_FIELDS),
+               Say(CORRECT_FIELDS));
     else if (Holds(vecEntry, HE70023E))
-        Settle(report, Outcome::NotConverted, ExitStatus::Refused,
-               "The file passed the check, but its document would be too large.",
+        Settle(report, Outcome::NotConverted, ExitStatus::Refused, Say(TOO_LARGE),
                AdviceFor(HE70023E));
     else if (Holds(vecEntry, HE70016E))
         SettleUnmade(report, m_check.Source().Cells());
-    else if (Holds(vecEntry, HE70018E) && CanMakeDocument())
-        return NotWritten(std::move(report));
+    // What can be made in memory failed in the writing. A CrossBorder operation tells a fault by an
+    // empty table.
+    else if ((Holds(vecEntry, HE70018E) || vecEntry.empty()) &&
+             m_check.Operations().CanMakeDocument(m_check.Source().LibraryPath(), m_fields))
+        return NotWritten(std::move(report), WriteProblem(document.Path()));
     else
         return Broken(std::move(report));
     return report;
@@ -209,49 +298,39 @@ FileReport FileConversion::Broken(FileReport report) const
     return broken;
 }
 
-FileReport FileConversion::NotWritten(FileReport report) const
+FileReport FileConversion::NotWritten(FileReport report, const std::string& strReason) const
 {
-    report.eOutcome = Outcome::NotWritten;
-    report.eStatus = ExitStatus::NotWritten;
-    report.strProblem = "The document was made, but could not be written to " +
-                        MakeSafe(m_strOutput) + ": " + WriteProblem(m_strOutputPath) + ".";
-    report.strAdvice =
-        "Free some space, or name another output. Whatever stands there now is no "
-        "document to file.";
+    const bool bReplaced = !IsDeviceOrPipe(AbsolutePath(m_strOutput));
+    Settle(report, Outcome::NotWritten, ExitStatus::NotWritten,
+           Say(NOT_WRITTEN, {MakeSafe(m_strOutput), strReason}),
+           Say(bReplaced ? NAME_ANOTHER : HALF_WRITTEN));
     return report;
+}
+
+/// The first field of an option that the file's family doesn't take, or the empty text.
+std::string FileConversion::ForeignOption() const
+{
+    const Family eFamily = m_check.Source().OfFamily();
+    for (std::size_t n = 0; n < FILER_FIELD_COUNT; ++n)
+        if (m_options.bRefuseForeignOptions && m_fields.szOption[n] != nullptr &&
+            !m_fields[n].empty() && !Takes(eFamily, static_cast<FilerField>(n)))
+            return m_fields.szOption[n];
+    return {};
 }
 
 void FileConversion::ExplainArguments(FileReport& report) const
 {
     for (ReportedError& error : report.vecError) {
-        const long lField = error.entry.lColumn - FIRST_FILER_ARGUMENT;
         if (error.eScope != ErrorScope::Argument)
             continue;
         if (error.entry.lColumn == MOK_PATH_ARGUMENT) {
             error.value = m_strOutput;
-            error.strHint = "The folder of the output does not exist.";
-        } else if (lField >= 0 && lField < static_cast<long>(m_fields.size())) {
-            const auto eField = static_cast<FilerField>(lField);
-            error.value = m_fields[eField];
-            if (error.entry.eMessage == HE70010E)
-                error.strHint = FieldHint(eField, report.strProcedure);
+            error.strHint = Say(NO_SUCH_FOLDER);
+        } else if (const auto field = FieldOfArgument(report.eFamily, error.entry.lColumn)) {
+            error.value = m_fields[*field];
+            error.strHint = FieldHint(*field, error.entry.eMessage, report);
         }
     }
-}
-
-/// Makes the same document in memory: if that works, it was the writing that failed.
-bool FileConversion::CanMakeDocument()
-{
-    const bool bMade =
-        Passed(m_library.ELCsvCheck(m_check.Source().LibraryPath().c_str(), PROBE_KEY)) &&
-        Passed(m_library.ELCsvConvMok(PROBE_KEY, m_fields[ZEIMUSHO_CD].c_str(),
-                                      m_fields[NOZEISHA_ID].c_str(), m_fields[KOJIN_BANGO].c_str(),
-                                      m_fields[HOJIN_BANGO].c_str(), m_fields[NOZEISHA_NM].c_str(),
-                                      m_fields[NOZEISHA_ADR].c_str(), m_fields[DAIHYO_NM].c_str(),
-                                      m_fields[DAIRI_ID].c_str(), m_fields[DAIRI_NM].c_str(),
-                                      m_fields[DAIRI_ADR].c_str(), m_fields[TETSUZUKI].c_str()));
-    m_library.Terminate();
-    return bMade;
 }
 
 }  // namespace host

@@ -1,43 +1,57 @@
 // Checks one file and turns it into a document.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "CheckFile.h"
 #include "FilerFields.h"
+#include "PendingDocument.h"
 
 namespace host {
 
+struct ConversionOptions
+{
+    std::optional<Family> family;  ///< nothing: that of the file's first record's type id
+    /// Does everything, but leaves no file.
+    bool bDryRun = false;
+    /// A field that an option gives has to be one that the family takes. Without this such fields
+    /// are passed over, as those of a profile always are.
+    bool bRefuseForeignOptions = false;
+};
+
 /// The library's conversion doesn't check columns, so a file is checked first, and one with errors
-/// is refused with the report of that check.
+/// is refused with the report of that check. The document appears whole or not at all.
 class FileConversion
 {
 public:
     /// \param strOutput  Path of the document, ending in .mok or .MOK.
     /// \param fields  An empty procedure id is filled from the check, an empty software name is
-    /// this
-    ///     program's.
+    ///     this program's.
     FileConversion(KZICsvConvMokEka& library,
                    const Definitions& definitions,
                    const std::string& strFile,
                    const std::string& strOutput,
-                   FilerFields fields);
+                   FilerFields fields,
+                   const ConversionOptions& options = {});
 
     FileReport Run();
 
 private:
     FileReport Convert(FileReport report);
-    FileReport Judge(FileReport report, const std::vector<DetailEntry>& vecEntry);
+    FileReport Keep(FileReport report, PendingDocument& document);
+    FileReport Judge(FileReport report,
+                     const std::vector<DetailEntry>& vecEntry,
+                     const PendingDocument& document);
     FileReport Broken(FileReport report) const;
-    FileReport NotWritten(FileReport report) const;
+    FileReport NotWritten(FileReport report, const std::string& strReason) const;
+    std::string ForeignOption() const;
     void ExplainArguments(FileReport& report) const;
-    bool CanMakeDocument();
 
-    KZICsvConvMokEka& m_library;
     FileCheck m_check;
-    std::string m_strOutput;      ///< as the user gave it
-    std::string m_strOutputPath;  ///< absolute, as the library wants a folder in it
+    std::string m_strOutput;  ///< as the user gave it
     FilerFields m_fields;
+    ConversionOptions m_options;
 };
 
 }  // namespace host

@@ -2,7 +2,14 @@
 
 #include <set>
 
+#include "Language.h"
+
 namespace host {
+namespace {
+
+constexpr Text NO_TEXT = {"(no text is known for this code)", "（このコードの説明はありません）"};
+
+}  // namespace
 
 std::size_t FileReport::RecordsWithErrors() const
 {
@@ -24,6 +31,8 @@ const char* OutcomeName(Outcome eOutcome)
             return "not_checked";
         case Outcome::Converted:
             return "converted";
+        case Outcome::Convertible:
+            return "convertible";
         case Outcome::NotConverted:
             return "not_converted";
         case Outcome::NotWritten:
@@ -35,7 +44,7 @@ const char* OutcomeName(Outcome eOutcome)
 const char* MessageText(const ReportedError& error)
 {
     return error.entry.eMessage != MSG_NONE ? EkaMsgTable[error.entry.eMessage].szText
-                                            : "(no text is known for this code)";
+                                            : Say(NO_TEXT);
 }
 
 }  // namespace host

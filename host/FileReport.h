@@ -3,12 +3,15 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "CsvCells.h"
 #include "DetailTable.h"
 #include "ExitStatus.h"
+#include "Family.h"
 
 namespace host {
 
@@ -18,6 +21,7 @@ enum class Outcome
     Refused,     ///< the file has errors
     NotChecked,  ///< the check didn't reach the end of the file
     Converted,
+    Convertible,   ///< a dry run made the document and left no file
     NotConverted,  ///< the file passed, but a field of the filer is wrong or no document can be
                    ///< made
     NotWritten,    ///< the document could be made but not written
@@ -36,8 +40,9 @@ struct ReportedError
 {
     DetailEntry entry;
     ErrorScope eScope = ErrorScope::File;
-    std::string strName;  ///< label of the column, or name of the argument; may be empty
-    std::string strRule;  ///< in words, the rule that refused the cell; may be empty
+    std::size_t nLine = 0;  ///< line of the file in which the record begins; 0 if unknown
+    std::string strName;    ///< label of the column, or name of the argument; may be empty
+    std::string strRule;    ///< in words, the rule that refused the cell; may be empty
     std::optional<std::string> value;  ///< what stands in the cell or argument; nothing if unknown
     std::string
         strHint;  ///< where in the file, as far as the code alone doesn't tell; may be empty
@@ -45,8 +50,17 @@ struct ReportedError
 
 struct WrittenDocument
 {
-    std::string strPath;
-    std::uintmax_t nBytes = 0;
+    std::string strPath;        ///< as the user gave it
+    std::uintmax_t nBytes = 0;  ///< 0 for a device or a pipe
+};
+
+/// Neighbouring records of one form.
+struct ReportedForm
+{
+    std::size_t nFirstRecord = 1;
+    std::size_t nLastRecord = 0;
+    std::string strName;                ///< may be empty
+    std::vector<std::string> vecLabel;  ///< of the columns from 1; each may be empty
 };
 
 struct FileReport
@@ -54,6 +68,7 @@ struct FileReport
     std::string strFile;  ///< as the user named it; not always UTF-8
     Outcome eOutcome = Outcome::NotChecked;
     ExitStatus eStatus = ExitStatus::NotChecked;
+    Family eFamily = Family::Base;        ///< whose operations took it
     std::string strProcedure;             ///< empty if unknown
     std::optional<std::size_t> records;   ///< records that aren't blank; nothing if unknown
     std::vector<ReportedError> vecError;  ///< all of them, in the library's order
@@ -61,7 +76,9 @@ struct FileReport
     std::string strProblem;               ///< why the file wasn't checked, converted or written
     std::string strAdvice;                ///< what to do about strProblem
     std::string strNote;                  ///< something to know beside the errors; may be empty
-    std::optional<WrittenDocument> document;
+    std::optional<WrittenDocument> document;  ///< of a dry run: the one that would be written
+    std::shared_ptr<const CsvCells> pCells;  ///< null if the file couldn't be read
+    std::vector<ReportedForm> vecForm;  ///< in the order of the file; empty if the form is unknown
 
     /// Distinct records that have an error of their own.
     std::size_t RecordsWithErrors() const;

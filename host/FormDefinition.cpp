@@ -74,7 +74,7 @@ ItemDefinition ReadItem(const XmlElement& element)
 void TakeColumnOfChild(std::vector<ItemDefinition>& vecItem)
 {
     for (ItemDefinition& item : vecItem) {
-        if (item.lColumn > 0)
+        if (item.lColumn > 0 || !item.IsGroup())
             continue;
         const auto child = std::ranges::find(vecItem, item.strId, &ItemDefinition::strParent);
         if (child == vecItem.end())
@@ -92,7 +92,7 @@ ColumnLabels ReadLabels(const std::vector<ItemDefinition>& vecItem)
         labels.AddItem(item.lColumn, item.strLabel);
         for (const CheckDefinition& check : item.vecCheck)
             if (check.lColumn != item.lColumn)
-                labels.AddChecked(check.lColumn, item.strLabel);
+                labels.AddChecked(check.lColumn, item.strLabel, item.lColumn == 0);
     }
     return labels;
 }
@@ -152,17 +152,20 @@ void ColumnLabels::AddItem(long lColumn, const std::string& strLabel)
         AppendLabel(m_mapItem[lColumn], strLabel);
 }
 
-void ColumnLabels::AddChecked(long lColumn, const std::string& strLabel)
+void ColumnLabels::AddChecked(long lColumn, const std::string& strLabel, bool bOver)
 {
-    if (lColumn > 0)
-        AppendLabel(m_mapChecked[lColumn], strLabel);
+    if (lColumn <= 0)
+        return;
+    AppendLabel(m_mapChecked[lColumn], strLabel);
+    if (bOver)
+        AppendLabel(m_mapOver[lColumn], strLabel);
 }
 
 std::string ColumnLabels::Find(long lColumn, long lColumnEnd) const
 {
     if (lColumnEnd == SINGLE_COLUMN || lColumnEnd == lColumn)
         return FindColumn(lColumn);
-    if (std::string strOver = host::Find(m_mapChecked, lColumn); !strOver.empty())
+    if (std::string strOver = host::Find(m_mapOver, lColumn); !strOver.empty())
         return strOver;
     const std::string strFirst = FindColumn(lColumn);
     const std::string strLast = FindColumn(lColumnEnd);

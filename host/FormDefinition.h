@@ -40,6 +40,9 @@ struct ItemDefinition
     long lColumn = 0;  ///< from 1; 0 for none
     std::vector<CheckDefinition> vecCheck;
     long lLine = 0;
+
+    /// Its own checks wait for those of its children, whose first column is theirs.
+    bool IsGroup() const { return strType == "Date" || strType == "Zeimusho"; }
 };
 
 /// Labels of a form's columns, counted from 1.
@@ -48,9 +51,10 @@ class ColumnLabels
 public:
     /// Notes the label of an item that has this column itself. Several items may share a column.
     void AddItem(long lColumn, const std::string& strLabel);
-    /// Notes the label of an item that checks this column without having it, such as a date item
-    /// over its parts.
-    void AddChecked(long lColumn, const std::string& strLabel);
+    /// Notes the label of an item that checks this column without having it.
+    /// \param bOver  The item has no column, such as a date over its parts: the label is that of
+    /// the columns that begin here.
+    void AddChecked(long lColumn, const std::string& strLabel, bool bOver);
 
     /// Empty if nothing is known. \param lColumnEnd  SINGLE_COLUMN, or the last column of a range:
     /// then the item over the range comes first, after that the labels of its two ends.
@@ -61,6 +65,7 @@ private:
 
     std::map<long, std::string> m_mapItem;
     std::map<long, std::string> m_mapChecked;
+    std::map<long, std::string> m_mapOver;
 };
 
 /// A `report` element.

@@ -1,10 +1,11 @@
+#include "JsonReport.h"
+
 #include <algorithm>
-#include <map>
 #include <nlohmann/json.hpp>
 #include <ostream>
 
 #include "Advice.h"
-#include "Report.h"
+#include "ErrorCounts.h"
 
 namespace host {
 namespace {
@@ -17,6 +18,12 @@ constexpr int INDENT = 2;
 Json TextOrNull(const std::string& strText)
 {
     return strText.empty() ? Json() : Json(strText);
+}
+
+/// Null for SINGLE_COLUMN.
+Json ColumnOrNull(long lColumnEnd)
+{
+    return lColumnEnd != SINGLE_COLUMN ? Json(lColumnEnd) : Json();
 }
 
 const char* ScopeName(ErrorScope eScope)
@@ -37,17 +44,18 @@ const char* ScopeName(ErrorScope eScope)
 Json ErrorToJson(const ReportedError& error)
 {
     const bool bArgument = error.eScope == ErrorScope::Argument;
-    const bool bRange = error.entry.lColumnEnd != SINGLE_COLUMN;
     return {
         {"scope", ScopeName(error.eScope)},
         {"record", error.entry.lRecord},
+        {"line", error.nLine > 0 ? Json(error.nLine) : Json()},
         {"column", error.entry.lColumn},
-        {"columnEnd", bRange ? Json(error.entry.lColumnEnd) : Json()},
+        {"columnEnd", ColumnOrNull(error.entry.lColumnEnd)},
         {"argument", bArgument ? Json(error.strName) : Json()},
         {"label", bArgument ? Json() : TextOrNull(error.strName)},
         {"value", error.value ? Json(*error.value) : Json()},
         {"code", error.entry.strCode},
         {"message", MessageText(error)},
+        {"rule", TextOrNull(error.strRule)},
         {"hint", TextOrNull(error.strHint)},
         {"advice", AdviceFor(error.entry.eMessage)},
     };
@@ -55,16 +63,23 @@ Json ErrorToJson(const ReportedError& error)
 
 Json CountsToJson(const FileReport& report, std::size_t nListed)
 {
-    std::map<std::string, std::size_t> mapCount;
-    for (const ReportedError& error : report.vecError)
-        ++mapCount[error.entry.strCode];
+    Json byCode = Json::object();
+    for (const CodeCount& count : CountByCode(report))
+        byCode[count.strCode] = count.nErrors;
+    Json byColumn = Json::array();
+    for (const ColumnCount& count : CountByColumn(report))
+        byColumn.push_back({{"column", count.lColumn},
+                            {"columnEnd", ColumnOrNull(count.lColumnEnd)},
+                            {"label", TextOrNull(count.strLabel)},
+                            {"errors", count.nErrors}});
     return {
         {"records", report.records ? Json(*report.records) : Json()},
         {"recordsWithErrors", report.RecordsWithErrors()},
         {"errors", report.vecError.size()},
         {"listed", nListed},
         {"moreErrors", report.bMoreErrors},
-        {"byCode", mapCount},
+        {"byCode", std::move(byCode)},
+        {"byColumn", std::move(byColumn)},
     };
 }
 
@@ -75,7 +90,9 @@ Json DocumentToJson(const std::optional<WrittenDocument>& document)
     return {{"path", document->strPath}, {"bytes", document->nBytes}};
 }
 
-Json FileToJson(const FileReport& report, const ReportStyle& style)
+}  // namespace
+
+nlohmann::ordered_json FileToJson(const FileReport& report, const ReportStyle& style)
 {
     const std::size_t nAll = report.vecError.size();
     const std::size_t nListed = std::min(style.limit.value_or(nAll), nAll);
@@ -92,6 +109,7 @@ Json FileToJson(const FileReport& report, const ReportStyle& style)
         {"file", report.strFile},
         {"result", OutcomeName(report.eOutcome)},
         {"status", static_cast<int>(report.eStatus)},
+        {"family", FamilyName(report.eFamily)},
         {"procedure", TextOrNull(report.strProcedure)},
         {"document", DocumentToJson(report.document)},
         {"counts", CountsToJson(report, nListed)},
@@ -103,7 +121,10 @@ Json FileToJson(const FileReport& report, const ReportStyle& style)
     };
 }
 
-}  // namespace
+std::string JsonText(const nlohmann::ordered_json& value, int nIndent)
+{
+    return value.dump(nIndent, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
+}
 
 void WriteJson(std::ostream& out,
                const char* szCommand,
@@ -121,9 +142,7 @@ void WriteJson(std::ostream& out,
         {"command", szCommand},      {"status", static_cast<int>(eStatus)},
         {"files", std::move(files)},
     };
-    // Names and values come from outside: what isn't UTF-8 becomes U+FFFD.
-    out << document.dump(INDENT, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace)
-        << '\n';
+    out << JsonText(document, INDENT) << '\n';
 }
 
 }  // namespace host

@@ -15,12 +15,14 @@ constexpr int LIMIT_MAX = 1'000'000'000;
 void AddReportOptions(CLI::App& command, ReportOptions& options)
 {
     static const std::map<std::string, Format> FORMATS = {{"text", Format::Text},
-                                                          {"json", Format::Json}};
+                                                          {"json", Format::Json},
+                                                          {"sarif", Format::Sarif},
+                                                          {"html", Format::Html}};
     command
         .add_option_function<std::string>(
             "--format",
             [&options](const std::string& strName) { options.eFormat = FORMATS.at(strName); },
-            "How the results are written: text (default) or json")
+            "How the results are written: text (default), json, sarif (2.1.0) or html (one page)")
         ->type_name("FORMAT")
         ->check(CLI::IsMember(&FORMATS).description(""));
     command

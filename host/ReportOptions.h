@@ -14,6 +14,8 @@ enum class Format
 {
     Text,
     Json,
+    Sarif,
+    Html,
 };
 
 struct ReportOptions

@@ -7,8 +7,10 @@
 #include <string_view>
 #include <utility>
 
+#include "HtmlReport.h"
 #include "Report.h"
 #include "SafeText.h"
+#include "SarifReport.h"
 
 namespace host {
 namespace {
@@ -50,18 +52,37 @@ void ReportRun::Add(FileReport report)
         Warn(report);
         report.vecError.clear();  // they have been told
     }
+    if (m_options.eFormat != Format::Html)
+        report.pCells.reset();
     m_vecReport.push_back(std::move(report));
+}
+
+void ReportRun::WriteAll() const
+{
+    const ReportStyle style = StyleOf(m_options);
+    switch (m_options.eFormat) {
+        case Format::Text:
+            if (m_vecReport.size() > 1)
+                WriteTextTotals(std::cout, m_vecReport);
+            return;
+        case Format::Json:
+            WriteJson(std::cout, m_szCommand, m_vecReport, style);
+            return;
+        case Format::Sarif:
+            WriteSarif(std::cout, m_vecReport, style);
+            return;
+        case Format::Html:
+            WriteHtml(std::cout, m_szCommand, m_vecReport, style);
+            return;
+    }
 }
 
 ExitStatus ReportRun::Finish()
 {
-    if (m_options.eFormat == Format::Json) {
-        WriteJson(std::cout, m_szCommand, m_vecReport, StyleOf(m_options));
+    WriteAll();
+    if (m_options.eFormat != Format::Text)
         for (const FileReport& report : m_vecReport)
             Warn(report);
-    } else if (m_vecReport.size() > 1) {
-        WriteTextTotals(std::cout, m_vecReport);
-    }
     auto eStatus = ExitStatus::Passed;
     for (const FileReport& report : m_vecReport)
         eStatus = Worse(eStatus, report.eStatus);

@@ -21,6 +21,8 @@ public:
     ExitStatus Finish();
 
 private:
+    void WriteAll() const;
+
     const char* m_szCommand;
     ReportOptions m_options;
     std::vector<FileReport> m_vecReport;

@@ -1,6 +1,7 @@
 // A CSV file as a user's mistake may have left it: what the library doesn't tell about it.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -16,12 +17,19 @@ class SourceFile
 {
 public:
     /// \param strPath  As the user gave it.
-    explicit SourceFile(const std::string& strPath);
+    /// \param family  Nothing: the one that the first record's type id belongs to.
+    explicit SourceFile(const std::string& strPath, std::optional<Family> family = std::nullopt);
 
     /// The path for the library: absolute, so that it begins with no white space.
     const std::string& LibraryPath() const { return m_strLibraryPath; }
-    /// Cells in UTF-8; without records but one blank if the file can't be read as Shift_JIS.
-    const CsvCells& Cells() const { return *m_cells; }
+    /// Whose operations take the file. Base if that can't be told.
+    Family OfFamily() const { return m_pCells->FamilyOfCells(); }
+    /// Cells in UTF-8; none that isn't empty if the file can't be read as Shift_JIS.
+    const CsvCells& Cells() const { return *m_pCells; }
+    std::shared_ptr<const CsvCells> SharedCells() const { return m_pCells; }
+
+    /// The file as it is.
+    const std::string& Bytes() const { return m_strBytes; }
 
     /// A reason why the library would look at another file than this, or nothing.
     std::optional<std::string> PathProblem() const;
@@ -39,7 +47,7 @@ private:
     bool m_bRead = false;
     std::string m_strBytes;
     bool m_bShiftJis = false;
-    std::optional<CsvCells> m_cells;
+    std::shared_ptr<const CsvCells> m_pCells;  ///< never null
 };
 
 }  // namespace host

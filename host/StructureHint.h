@@ -14,4 +14,7 @@ std::string StructureHint(KZCEkaMessage_t eMessage,
                           const CsvCells& cells,
                           const Definitions& definitions);
 
+/// For an error that the library tells beside the one that is its reason.
+std::string FollowingHint();
+
 }  // namespace host

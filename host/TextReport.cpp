@@ -1,15 +1,20 @@
 #include <algorithm>
-#include <map>
+#include <functional>
 #include <ostream>
 
 #include "Advice.h"
+#include "ErrorCounts.h"
+#include "Language.h"
 #include "Report.h"
+#include "ReportWords.h"
 #include "SafeText.h"
 
 namespace host {
 namespace {
 
 constexpr std::size_t SHOWN_CHARACTERS = 80;
+constexpr std::size_t SHOWN_COLUMNS = 8;  ///< most columns whose errors are counted
+constexpr Text COMMA = {", ", "、"};
 
 constexpr const char* BOLD = "\x1b[1m";
 constexpr const char* RED = "\x1b[31m";
@@ -23,114 +28,50 @@ std::string Painted(const std::string& strText, const char* szColour, const Repo
     return style.bColour ? szColour + strText + PLAIN : strText;
 }
 
-/// "2,000"
-std::string Grouped(std::uintmax_t nCount)
-{
-    std::string strDigits = std::to_string(nCount);
-    for (std::size_t n = strDigits.size(); n > 3; n -= 3)
-        strDigits.insert(n - 3, ",");
-    return strDigits;
-}
-
-/// "1 error", "2,000 errors"
-std::string Count(std::uintmax_t nCount, const std::string& strThing)
-{
-    return Grouped(nCount) + " " + strThing + (nCount == 1 ? "" : "s");
-}
-
-struct OutcomeText
-{
-    const char* szText;
-    const char* szColour;
-};
-
-OutcomeText TextOf(Outcome eOutcome)
+const char* ColourOf(Outcome eOutcome)
 {
     switch (eOutcome) {
         case Outcome::Passed:
-            return {"passed", GREEN};
-        case Outcome::Refused:
-            return {"REFUSED", RED};
-        case Outcome::NotChecked:
-            return {"NOT CHECKED", YELLOW};
         case Outcome::Converted:
-            return {"converted", GREEN};
+        case Outcome::Convertible:
+            return GREEN;
+        case Outcome::Refused:
         case Outcome::NotConverted:
-            return {"NOT CONVERTED", RED};
+            return RED;
+        case Outcome::NotChecked:
         case Outcome::NotWritten:
-            return {"NOT WRITTEN", YELLOW};
+            return YELLOW;
     }
-    return {"NOT CHECKED", YELLOW};
-}
-
-std::string ErrorCount(const FileReport& report)
-{
-    std::string strText =
-        (report.bMoreErrors ? "more than " : "") + Count(report.vecError.size(), "error");
-    if (const std::size_t nRecords = report.RecordsWithErrors(); nRecords > 0) {
-        strText += " in " + (report.records && !report.bMoreErrors
-                                 ? Grouped(nRecords) + " of " + Count(*report.records, "record")
-                                 : Count(nRecords, "record"));
-        if (report.bMoreErrors)
-            strText += " or more";
-    }
-    return strText;
-}
-
-/// The errors are the file's own, so counting them helps.
-bool IsAboutContents(const FileReport& report)
-{
-    return report.eOutcome == Outcome::Refused || report.RecordsWithErrors() > 0;
+    return YELLOW;
 }
 
 void WriteHeadline(std::ostream& out, const FileReport& report, const ReportStyle& style)
 {
-    const OutcomeText outcome = TextOf(report.eOutcome);
     out << Painted(MakeSafe(report.strFile), BOLD, style) << ": "
-        << Painted(outcome.szText, outcome.szColour, style);
+        << Painted(OutcomeWord(report.eOutcome), ColourOf(report.eOutcome), style);
     if (IsAboutContents(report))
-        out << ", " << ErrorCount(report);
+        out << Say(COMMA) << ErrorSummary(report);
     else if (report.records && report.eOutcome != Outcome::NotChecked)
-        out << ", " << Count(*report.records, "record");
+        out << Say(COMMA) << Count(*report.records, RECORDS);
     if (!report.strProcedure.empty())
-        out << " (procedure " << MakeSafe(report.strProcedure) << ")";
+        out << Say({" (procedure {1})", "（手続{1}）"}, {MakeSafe(report.strProcedure)});
     out << '\n';
-}
-
-std::string Place(const ReportedError& error)
-{
-    const DetailEntry& entry = error.entry;
-    const std::string strRecord = "record " + std::to_string(entry.lRecord);
-    const std::string strColumn = std::to_string(entry.lColumn);
-    switch (error.eScope) {
-        case ErrorScope::Cell:
-            return strRecord +
-                   (entry.lColumnEnd == SINGLE_COLUMN
-                        ? ", column " + strColumn
-                        : ", columns " + strColumn + " to " + std::to_string(entry.lColumnEnd));
-        case ErrorScope::Record:
-            return strRecord + " as a whole";
-        case ErrorScope::File:
-            return entry.lColumn > 0 ? "the file as a whole, column " + strColumn
-                                     : "the file as a whole";
-        case ErrorScope::Argument:
-            return error.strName;
-    }
-    return {};
 }
 
 void WriteError(std::ostream& out, const ReportedError& error, const ReportStyle& style)
 {
-    out << "  " << Painted(Place(error), BOLD, style);
+    out << "  " << Painted(PlaceOf(error), BOLD, style);
     if (error.eScope != ErrorScope::Argument && !error.strName.empty())
-        out << " (" << MakeSafe(error.strName) << ")";
+        out << Say({" ({1})", "（{1}）"}, {MakeSafe(error.strName)});
     if (error.value && error.value->empty())
-        out << ": empty";
+        out << Say({": empty", "：空"});
     else if (error.value)
-        out << ": \"" << MakeSafeAndShort(*error.value, SHOWN_CHARACTERS) << '"';
+        out << Say({": \"{1}\"", "：「{1}」"}, {MakeSafeAndShort(*error.value, SHOWN_CHARACTERS)});
     out << "\n    " << Painted(MakeSafe(error.entry.strCode), RED, style) << ' '
-        << MessageText(error) << '\n'
-        << "    ";
+        << MessageText(error) << '\n';
+    if (!error.strRule.empty())
+        out << "    " << Say({"Rule: {1}", "規則：{1}"}, {MakeSafe(error.strRule)}) << '\n';
+    out << "    ";
     // What is known about an argument says all; about a file it says where.
     if (!error.strHint.empty())
         out << error.strHint << (error.eScope == ErrorScope::Argument ? '\n' : ' ');
@@ -140,15 +81,40 @@ void WriteError(std::ostream& out, const ReportedError& error, const ReportStyle
 
 void WriteCodeCounts(std::ostream& out, const FileReport& report)
 {
-    std::map<std::string, std::size_t> mapCount;
-    for (const ReportedError& error : report.vecError)
-        ++mapCount[error.entry.strCode];
-    out << "  Errors by code:";
-    const char* szSeparator = " ";
-    for (const auto& [strCode, nCount] : mapCount) {
-        out << szSeparator << MakeSafe(strCode) << " × " << Grouped(nCount);
-        szSeparator = ", ";
+    out << Say({"  Errors by code: ", "  コード別："});
+    const char* szSeparator = "";
+    for (const CodeCount& count : CountByCode(report)) {
+        out << szSeparator << MakeSafe(count.strCode) << " × " << Grouped(count.nErrors);
+        szSeparator = Say(COMMA);
     }
+    out << '\n';
+}
+
+/// "17-18 年月日"
+std::string ColumnName(const ColumnCount& count)
+{
+    std::string strName = ColumnNumbers(count.lColumn, count.lColumnEnd);
+    if (!count.strLabel.empty())
+        strName += " " + MakeSafe(count.strLabel);
+    return strName;
+}
+
+void WriteColumnCounts(std::ostream& out, const FileReport& report)
+{
+    std::vector<ColumnCount> vecCount = CountByColumn(report);
+    if (vecCount.empty())
+        return;
+    std::ranges::stable_sort(vecCount, std::ranges::greater(), &ColumnCount::nErrors);
+    const std::size_t nShown = std::min(vecCount.size(), SHOWN_COLUMNS);
+    out << Say({"  Errors by column: ", "  項目別："});
+    const char* szSeparator = "";
+    for (std::size_t n = 0; n < nShown; ++n) {
+        out << szSeparator << ColumnName(vecCount[n]) << " × " << Grouped(vecCount[n].nErrors);
+        szSeparator = Say(COMMA);
+    }
+    if (nShown < vecCount.size())
+        out << Say({"; {1} other columns have fewer", "、ほか{1}項目"},
+                   {Grouped(vecCount.size() - nShown)});
     out << '\n';
 }
 
@@ -159,10 +125,14 @@ void WriteErrors(std::ostream& out, const FileReport& report, const ReportStyle&
     for (std::size_t n = 0; n < nShown; ++n)
         WriteError(out, report.vecError[n], style);
     if (nShown < nAll)
-        out << "  ... " << Grouped(nAll - nShown) << " of " << Count(nAll, "error")
-            << " not shown here (--limit " << *style.limit << ")\n";
-    if (nAll > 1 && IsAboutContents(report))
+        out << Say({"  ... {1} of {2} not shown here (--limit {3})",
+                    "  ... {2}のうち{1}件は表示していません（--limit {3}）"},
+                   {Grouped(nAll - nShown), Count(nAll, ERRORS), std::to_string(*style.limit)})
+            << '\n';
+    if (nAll > 1 && IsAboutContents(report)) {
+        WriteColumnCounts(out, report);
         WriteCodeCounts(out, report);
+    }
     if (report.bMoreErrors)
         out << "  " << EkaMsgTable[HE70022E].szCode << ' ' << EkaMsgTable[HE70022E].szText << '\n'
             << "    " << AdviceFor(HE70022E) << '\n';
@@ -174,27 +144,34 @@ void WriteText(std::ostream& out, const FileReport& report, const ReportStyle& s
 {
     WriteHeadline(out, report, style);
     WriteErrors(out, report, style);
+    const Text toDo = {"  To do: {1}", "  対処：{1}"};
     if (!report.strNote.empty())
-        out << "  Note: " << report.strNote << '\n';
+        out << Say({"  Note: {1}", "  注：{1}"}, {report.strNote}) << '\n';
     if (!report.strProblem.empty())
         out << "  " << report.strProblem << '\n';
     if (!report.strAdvice.empty())
-        out << "  To do: " << report.strAdvice << '\n';
+        out << Say(toDo, {report.strAdvice}) << '\n';
     else if (report.eOutcome == Outcome::Refused)
-        out << "  To do: correct the file as told above and check it again.\n";
+        out << Say(toDo, {Say({"correct the file as told above and check it again.",
+                               "上のエラーを直して、もう一度検査してください。"})})
+            << '\n';
     if (report.document)
-        out << "  document: " << MakeSafe(report.document->strPath) << ", "
-            << Count(report.document->nBytes, "byte") << '\n';
+        out << Say({"  document: {1}, {2}", "  文書：{1}、{2}"},
+                   {MakeSafe(report.document->strPath), Count(report.document->nBytes, BYTES)})
+            << '\n';
 }
 
 void WriteTextTotals(std::ostream& out, const std::vector<FileReport>& vecReport)
 {
     const auto count = [&](Outcome eOutcome) {
-        return std::ranges::count(vecReport, eOutcome, &FileReport::eOutcome);
+        return Grouped(static_cast<std::size_t>(
+            std::ranges::count(vecReport, eOutcome, &FileReport::eOutcome)));
     };
-    out << Count(vecReport.size(), "file") << ": " << count(Outcome::Passed) << " passed, "
-        << count(Outcome::Refused) << " refused, " << count(Outcome::NotChecked)
-        << " not checked to the end\n";
+    out << Say({"{1}: {2} passed, {3} refused, {4} not checked to the end",
+                "{1}：合格{2}、不合格{3}、最後まで検査できず{4}"},
+               {Count(vecReport.size(), FILES), count(Outcome::Passed), count(Outcome::Refused),
+                count(Outcome::NotChecked)})
+        << '\n';
 }
 
 }  // namespace host

@@ -29,6 +29,7 @@ constexpr XMLSize_t MAX_ENTITY_EXPANSIONS = 100;
 struct Unreadable
 {
     const char* szMessage;
+    bool bDoctype = false;
 };
 
 class TreeBuilder final : public xercesc::DefaultHandler
@@ -72,19 +73,37 @@ public:
                   const XMLCh* const /*publicId*/,
                   const XMLCh* const /*systemId*/) override
     {
-        throw Unreadable{"a document type declaration stands in it"};
+        throw Unreadable{"a document type declaration stands in it", true};
+    }
+
+    void comment(const XMLCh* const /*chars*/, const XMLSize_t /*length*/) override
+    {
+        NoteProlog();
+    }
+
+    void processingInstruction(const XMLCh* const /*target*/, const XMLCh* const /*data*/) override
+    {
+        NoteProlog();
     }
 
     void fatalError(const xercesc::SAXParseException& exception) override { throw exception; }
 
     std::optional<XmlElement> TakeRoot() { return std::move(m_root); }
+    long PrologLine() const { return m_lPrologLine; }
     long Line() const
     {
         return m_pLocator != nullptr ? static_cast<long>(m_pLocator->getLineNumber()) : 0;
     }
 
 private:
+    void NoteProlog()
+    {
+        if (m_lPrologLine == 0 && m_vecOpen.empty() && !m_root)
+            m_lPrologLine = Line();
+    }
+
     const xercesc::Locator* m_pLocator = nullptr;
+    long m_lPrologLine = 0;
     std::vector<XmlElement> m_vecOpen;
     std::optional<XmlElement> m_root;
 };
@@ -108,13 +127,14 @@ void Parse(const std::string& strBytes, XmlFile& file)
     try {
         pReader->parse(source);
         file.root = builder.TakeRoot();
+        file.lPrologLine = builder.PrologLine();
     } catch (const xercesc::SAXParseException& exception) {
         file.problem = {XMLChToChar(exception.getMessage()).Get(),
-                        static_cast<long>(exception.getLineNumber())};
+                        static_cast<long>(exception.getLineNumber()), false};
     } catch (const xercesc::XMLException& exception) {
-        file.problem = {XMLChToChar(exception.getMessage()).Get(), builder.Line()};
+        file.problem = {XMLChToChar(exception.getMessage()).Get(), builder.Line(), false};
     } catch (const Unreadable& reason) {
-        file.problem = {reason.szMessage, builder.Line()};
+        file.problem = {reason.szMessage, builder.Line(), reason.bDoctype};
     }
 }
 

@@ -26,12 +26,15 @@ struct XmlProblem
 {
     std::string strMessage;  ///< the parser's own, in English
     long lLine = 0;          ///< 0 if it isn't known
+    bool bDoctype = false;   ///< a document type declaration is what is wrong
 };
 
 struct XmlFile
 {
     std::optional<XmlElement> root;  ///< nothing if the file can't be read or parsed
     XmlProblem problem;
+    long lPrologLine = 0;  ///< of the first comment or processing instruction before the root; 0
+                           ///< if there is none
 };
 
 /// Nothing outside the file is ever fetched. Elements nested too deeply are a problem.

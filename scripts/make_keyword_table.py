@@ -25,7 +25,7 @@ ARGUMENT_KEYWORDS = ("existpath", "extension")
 def known_keywords():
     """The keywords of the library's table, sorted without regard to case."""
     source = KEYWORD_SOURCE.read_text(encoding="utf-8")
-    return sorted(set(re.findall(r'^ +\{"(\w+)", Make<', source, re.MULTILINE)), key=str.lower)
+    return sorted(set(re.findall(r'\{\s*"(\w+)",\s*Make<', source)), key=str.lower)
 
 
 def uses(report):

@@ -9,11 +9,16 @@
 class XercesSession
 {
 public:
-    /// Throws what the library throws if it can't start.
+    /// Throws if the library can't start. After a start that broke off in the middle it never can
+    /// again: the library takes itself for running then, and every use of it would crash.
     XercesSession();
     ~XercesSession();
     XercesSession(const XercesSession&) = delete;
     XercesSession& operator=(const XercesSession&) = delete;
+
+private:
+    static inline int m_nRunning = 0;  ///< sessions of this process
+    static inline bool m_bBroken = false;
 };
 
 /// A text of the XML library as UTF-8.

@@ -13,16 +13,18 @@
 #include <utility>
 #include <vector>
 
+#include "example/FileGenerator.h"
+#include "example/ProcedureRules.h"
+#include "example/RecordGenerator.h"
 #include "support/CellSpoiler.h"
 #include "support/Environment.h"
-#include "support/FileGenerator.h"
-#include "support/ProcedureRules.h"
-#include "support/RecordGenerator.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
 #include "support/TempFolder.h"
 
 namespace {
+
+using namespace host;
 
 #ifdef __SANITIZE_ADDRESS__
 constexpr bool IS_SLOW_BUILD = true;
@@ -135,10 +137,24 @@ std::vector<ReportPages> PagesOf(const ProcedureRules& procedure)
     return vecPages;
 }
 
+/// The procedures of the shipped resource folder, or the wanted one alone.
+std::vector<ProcedureRules> ReadProcedures(const std::string& strProcId = "")
+{
+    const Definitions definitions(KZEKAMOK_SOURCE_BUNDLE);
+    std::vector<ProcedureRules> vecProcedure;
+    for (const Family eFamily : {Family::Finance, Family::CrossBorder, Family::Base})
+        for (const std::string& strTypeId : definitions.TypeIds(eFamily)) {
+            const ProcedureDefinition& definition = *definitions.Find(strTypeId);
+            if (strProcId.empty() || strProcId == definition.strProcId)
+                vecProcedure.push_back(MakeProcedureRules(definition));
+        }
+    return vecProcedure;
+}
+
 /// Family, type id and procedure of the shipped files, read when the tests are listed.
 struct ProcedureName
 {
-    FamilyKind eFamily;
+    Family eFamily;
     std::string strTypeId;
     std::string strProcId;
 };
@@ -152,7 +168,7 @@ std::vector<ProcedureName> ProcedureNames()
 {
     const XercesSession session;
     std::vector<ProcedureName> vecName;
-    for (const ProcedureRules& procedure : ReadProcedures(KZEKAMOK_SOURCE_BUNDLE))
+    for (const ProcedureRules& procedure : ReadProcedures())
         vecName.push_back({procedure.eFamily, procedure.strTypeId, procedure.strProcId});
     return vecName;
 }
@@ -176,8 +192,8 @@ class GeneratedRecordsTest : public ResetState, public testing::WithParamInterfa
 protected:
     KZCEkaCommon::EXEC_MODE Mode() const
     {
-        return m_procedure.eFamily == FamilyKind::BASE ? KZCEkaCommon::EXEC_MODE_ZEKA
-                                                       : KZCEkaCommon::EXEC_MODE_OTHER;
+        return m_procedure.eFamily == Family::Base ? KZCEkaCommon::EXEC_MODE_ZEKA
+                                                   : KZCEkaCommon::EXEC_MODE_OTHER;
     }
     FileGenerator Generator() const
     {
@@ -192,14 +208,14 @@ protected:
     std::string WriteCsv(const std::vector<Record>& vecRecord) const
     {
         return m_folder.Write("records.csv",
-                              CsvBytes(vecRecord, m_procedure.eFamily == FamilyKind::CROSSBORDER));
+                              CsvBytes(vecRecord, m_procedure.eFamily == Family::CrossBorder));
     }
     auto Check(const std::string& strCsvPath)
     {
         switch (m_procedure.eFamily) {
-            case FamilyKind::FINANCE:
+            case Family::Finance:
                 return m_host.CsvCheckFinance(strCsvPath.c_str());
-            case FamilyKind::CROSSBORDER:
+            case Family::CrossBorder:
                 return m_host.CsvCheckCrossBorder(strCsvPath.c_str());
             default:
                 return m_host.CsvCheck(strCsvPath.c_str());
@@ -213,8 +229,7 @@ protected:
 
     KZICsvConvMokEka m_host;
     TempFolder m_folder;
-    const ProcedureRules m_procedure =
-        ReadProcedures(KZEKAMOK_SOURCE_BUNDLE, GetParam().strProcId).at(0);
+    const ProcedureRules m_procedure = ReadProcedures(GetParam().strProcId).at(0);
 
 private:
     Environment m_bundle{"KZEKAMOK_BUNDLE", KZEKAMOK_SOURCE_BUNDLE};
@@ -234,10 +249,10 @@ std::string GeneratedRecordsTest::Convert(const std::string& strCsvPath)
     constexpr const char* ADDRESS = "見本県見本市一丁目１番地";
     constexpr const char* SOFTWARE = "見本ソフト";
     std::shared_ptr<KZIConvertResultEka> pResult;
-    if (m_procedure.eFamily == FamilyKind::BASE)
+    if (m_procedure.eFamily == Family::Base)
         pResult = m_host.CsvConvMok(szCsv, szMok, szOffice, ID, "", "", NAME, ADDRESS, "", "", "",
                                     "", szProcId, SOFTWARE);
-    else if (m_procedure.eFamily == FamilyKind::FINANCE)
+    else if (m_procedure.eFamily == Family::Finance)
         pResult =
             m_host.CsvConvMokFinance(szCsv, szMok, szOffice, ID, "", "", NAME, ADDRESS, "", "", "",
                                      "", szProcId, "5", "6", "7", "8", SOFTWARE, "123", "4567");
@@ -419,9 +434,11 @@ private:
 TEST_F(RecordGeneratorTest, FormThatNothingPassesIsGivenUpWithColumnAndCheck)
 {
     const TempFolder folder;
-    const auto vecForm = ReadForms(folder.Write("KZEkaDefine.xml", HOPELESS_DEFINITION));
+    folder.Write("KZEkaDefine.xml", HOPELESS_DEFINITION);
+    const Definitions definitions(folder.Path());
+    const ProcedureRules procedure = MakeProcedureRules(*definitions.Find("003"));
     RecordTable table;
-    RecordGenerator generator(vecForm.at(0), table, {}, folder.Path(), SEED);
+    RecordGenerator generator(procedure.vecForm.at(0), table, {}, folder.Path(), SEED);
     const CheckPhase phase;
 
     std::string strTold;

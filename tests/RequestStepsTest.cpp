@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <filesystem>
 #include <ostream>
 #include <stdexcept>
 #include <string>
@@ -252,6 +253,81 @@ TEST_P(PathTest, CellsOfACheckAreMeasuredByTheRulesOfTheFamilysMode)
               "S_OK");
     EXPECT_EQ(CheckOn(m_ePath, m_eFamily, Csv(Record(m_eFamily, "1,a" + strFive))),
               Refused("0001-00003-HE70008E"));
+}
+
+// ---- loading -----------------------------------------------------------------------------------
+
+constexpr const char* CHECK_STEPS[] = {
+    "KZCEkaMOKManager::LoadCsvWithDefinition",
+    "KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Check",
+    "KZCEkaMOKManagerCrossBorder::LoadCsvWithDefinitionCrossBorder_Check"};
+constexpr const char* CONVERSION_STEPS[] = {
+    "KZCEkaMOKManager::LoadCsvWithDefinition",
+    "KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Conv",
+    "KZCEkaMOKManagerCrossBorder::LoadCsvWithDefinitionCrossBorder_Conv"};
+
+TEST_P(PathTest, CheckLoadsItsFileByTheStepOfItsFamily)
+{
+    const std::string strCsv = Csv("\xff\n");
+    const DebugLog log;
+    EXPECT_EQ(CheckOn(m_ePath, m_eFamily, strCsv), Refused(FATAL_ERROR));
+    EXPECT_THAT(LogEntries(log),
+                testing::Contains(
+                    LogEntry{CHECK_STEPS[static_cast<std::size_t>(m_eFamily)], UNEXPECTED_ERROR}));
+}
+
+TEST_P(FamilyTest, ConversionLoadsItsFileByTheStepOfItsFamily)
+{
+    const std::string strCsv = Csv("\xff\n");
+    const DebugLog log;
+    EXPECT_EQ(Convert(GetParam(), strCsv, FilerOf(GetParam())), Refused(FATAL_ERROR));
+    EXPECT_THAT(LogEntries(log),
+                testing::Contains(LogEntry{CONVERSION_STEPS[static_cast<std::size_t>(GetParam())],
+                                           UNEXPECTED_ERROR}));
+}
+
+TEST_P(FamilyTest, ElConversionLoadsDefinitionsAnewInAllFamiliesButTheBase)
+{
+    EXPECT_EQ(ElCheck(GetParam(), GoodCsv(GetParam()), 2).strResult, "S_OK");
+    for (const char* szFile :
+         {"KZEkaDefine.xml", "Finance/PGE2015_tpl.xml", "CrossBorder/PGE1650_tpl.xml"})
+        m_bundle.Write(szFile, "broken");
+    const DebugLog log;
+    const Answer answer = ElConvert(GetParam(), 2, FilerOf(GetParam()));
+    if (GetParam() == Family::Base) {
+        EXPECT_EQ(answer.strResult, "S_OK") << answer;
+        EXPECT_THAT(LogEntries(log), testing::Not(testing::Contains(
+                                         testing::Field(&LogEntry::strMessage, UNEXPECTED_ERROR))));
+        return;
+    }
+    EXPECT_EQ(answer, Refused(FATAL_ERROR));
+    EXPECT_THAT(LogEntries(log),
+                testing::Contains(LogEntry{CONVERSION_STEPS[static_cast<std::size_t>(GetParam())],
+                                           UNEXPECTED_ERROR}));
+}
+
+TEST_P(FamilyTest, ConversionLoadsNoChecks)
+{
+    const std::string strItem =
+        R"(<item type="Normal" id="A" parent="R" column="2"><valid id="unknown"/></item>)";
+    const std::string strReport = R"(<report id="003" columnNum="3" procId=")" +
+                                  std::string(FilerOf(GetParam()).szTetsuzuki) +
+                                  R"(" procVR="1.0" reportId="R" reportVR="1.0")" +
+                                  R"( startRow="0" endRow="0">)" + strItem + "</report>";
+    for (const char* szFile :
+         {"KZEkaDefine.xml", "Finance/PGE2015_vld.xml", "Finance/PGE2015_tpl.xml",
+          "CrossBorder/PGE1650_vld.xml", "CrossBorder/PGE1650_tpl.xml"})
+        m_bundle.Write(szFile, DefinitionFile(strReport));
+    EXPECT_EQ(Check(GetParam(), GoodCsv(GetParam())), Refused(FATAL_ERROR));
+    EXPECT_EQ(Convert(GetParam(), GoodCsv(GetParam()), FilerOf(GetParam())).strResult, "S_OK");
+}
+
+TEST_P(FamilyTest, ElConversionReadsNoFile)
+{
+    const std::string strCsv = GoodCsv(GetParam());
+    EXPECT_EQ(ElCheck(GetParam(), strCsv, 2).strResult, "S_OK");
+    std::filesystem::remove(strCsv);
+    EXPECT_EQ(ElConvert(GetParam(), 2, FilerOf(GetParam())).strResult, "S_OK");
 }
 
 // ---- columns of the two numbers and of the postal code -----------------------------------------

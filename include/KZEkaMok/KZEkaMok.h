@@ -1,3 +1,4 @@
+/// \file
 /// Everything that a C++ host of the library needs.
 #pragma once
 

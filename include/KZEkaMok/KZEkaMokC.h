@@ -1,3 +1,4 @@
+/// \file
 /// The operations of the library for hosts in C and in any language that calls C functions. C99.
 ///
 /// Texts are NUL-terminated UTF-8; a null pointer omits a value. The library reads its arguments
@@ -129,7 +130,8 @@ extern "C"
                                                                const char* szNozeishaZip2)
         KZEKAMOK_NOEXCEPT;
 
-    /// As KZEkaMok_ELCsvCheck. \param lCsvDistKey  1 to 16.
+    /// As KZEkaMok_ELCsvCheck.
+    /// \param lCsvDistKey  1 to 16.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvCheckFinance(
         const char* szCsvPathName, int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
@@ -184,7 +186,8 @@ extern "C"
                                                                    const char* szSoftName)
         KZEKAMOK_NOEXCEPT;
 
-    /// As KZEkaMok_ELCsvCheck. \param lCsvDistKey  1 to 10.
+    /// As KZEkaMok_ELCsvCheck.
+    /// \param lCsvDistKey  1 to 10.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvCheckCrossBorder(
         const char* szCsvPathName, int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
@@ -214,8 +217,11 @@ extern "C"
     /// final call; it may be repeated, and requests may follow.
     KZEKAMOK_EXPORT void KZEkaMok_Terminate(void) KZEKAMOK_NOEXCEPT;
 
-    /// The fields of a result. Never null: a null result, and a field that wasn't set, give the
-    /// empty text. The text belongs to the result and lives as long as that.
+    /// \name The fields of a result
+    ///
+    /// Never null: a null result, and a field that wasn't set, give the empty text. The text
+    /// belongs to the result and lives as long as that.
+    /// @{
 
     /// "S_OK" or "E_FAIL". Empty if the request broke off before either was settled: take it for a
     /// failure.
@@ -235,6 +241,7 @@ extern "C"
     /// The whole document; set by the EL conversions.
     KZEKAMOK_EXPORT const char* KZEkaMokResult_MokData(const KZEkaMokResult* pResult)
         KZEKAMOK_NOEXCEPT;
+    /// @}
 
     /// Frees a result and its texts. Null is allowed; every other result only once.
     KZEKAMOK_EXPORT void KZEkaMokResult_Free(KZEkaMokResult* pResult) KZEKAMOK_NOEXCEPT;

@@ -1,3 +1,4 @@
+/// \file
 /// The constants of the library, for C and C++. Hosts include KZEkaMok.h or KZEkaMokC.h.
 #pragma once
 
@@ -8,14 +9,14 @@ extern "C"
 {
 #endif
 
-    /// 2.0
+    /// The library's major and minor version: 2.0.
     KZEKAMOK_EXPORT extern const double KZEkaMokVersionNumber;
-    /// One line of text, a line feed included.
+    /// The version in words: one line of text, a line feed included. Static, never null.
     KZEKAMOK_EXPORT extern const char KZEkaMokVersionString[];
 
-    /// "S_OK"
+    /// Text of a result that passed: "S_OK". Static, never null.
     KZEKAMOK_EXPORT extern const char* const PROCESS_OK;
-    /// "E_FAIL"
+    /// Text of a result that failed: "E_FAIL". Static, never null.
     KZEKAMOK_EXPORT extern const char* const PROCESS_FAIL;
 
 #ifdef __cplusplus

@@ -1,3 +1,4 @@
+/// \file
 /// The outcome of a request, as the host holds it.
 #pragma once
 
@@ -5,13 +6,18 @@
 
 #include <KZEkaMok/KZEkaMokExport.h>
 
-/// Five texts in UTF-8, each held by copy. A field that a request doesn't set is empty.
+/// The outcome of a request: five texts in UTF-8, each held by copy. A field that a request doesn't
+/// set is empty.
 class KZEKAMOK_EXPORT KZIConvertResultEka
 {
 public:
+    /// Five empty fields.
     KZIConvertResultEka();
+    /// References to the fields end with their object.
     ~KZIConvertResultEka();
+    /// Copies the five texts.
     KZIConvertResultEka(const KZIConvertResultEka&);
+    /// Copies the five texts.
     KZIConvertResultEka& operator=(const KZIConvertResultEka&);
 
     /// Empties the five fields.
@@ -31,10 +37,16 @@ public:
     /// The whole document; set by the EL conversions.
     const std::string& GetMokData() const;
 
+    /// Sets the text of GetResult. The library does so before it hands a result over; a host needs
+    /// it, and its like below, for results of its own, as in tests.
     void SetResult(std::string strResult);
+    /// Sets the text of GetDetailErrorInfo.
     void SetDetailErrorInfo(std::string strDetailErrorInfo);
+    /// Sets the text of GetRecordCount.
     void SetRecordCount(std::string strRecordCount);
+    /// Sets the text of GetProcId.
     void SetProcId(std::string strProcId);
+    /// Sets the text of GetMokData.
     void SetMokData(std::string strMokData);
 
 private:

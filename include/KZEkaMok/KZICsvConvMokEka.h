@@ -1,3 +1,4 @@
+/// \file
 /// The operations of the library for C++ hosts.
 #pragma once
 
@@ -16,15 +17,15 @@
 class KZEKAMOK_EXPORT KZICsvConvMokEka
 {
 public:
-    /// Checks a CSV file and forgets it.
+    /// Checks a CSV file and forgets it. Ends all keys.
     /// Sets ProcId and Result, on failure Result and DetailErrorInfo.
     /// \param szCsvPathName  Path of a Shift_JIS file ending in .csv, .CSV, .txt or .TXT.
     std::shared_ptr<KZIConvertResultEka> CsvCheck(const char* szCsvPathName);
 
     /// Turns a CSV file into a document file. The columns aren't checked again: call CsvCheck
     /// first. Sets Result, on failure DetailErrorInfo too. Errors of an argument name its number
-    /// from 1. \param szMokPathName  Path of the document, ending in .mok or .MOK, in a folder that
-    /// exists.
+    /// from 1.
+    /// \param szMokPathName  Path of the document, ending in .mok or .MOK, in a folder that exists.
     ///     An existing file is replaced.
     /// \param szZeimushoCD   Tax office, 5 digits.
     /// \param szNozeishaId   Filer's id, 16 digits.
@@ -55,7 +56,7 @@ public:
 
     /// Checks a CSV file and keeps it under a key for ELCsvConvMok. Every plain request (CsvCheck,
     /// CsvConvMok and those of the other families) and every request of another family ends all
-    /// keys.
+    /// keys. A failure in the file drops what the key held before.
     /// Sets ProcId, RecordCount and Result, on failure Result and DetailErrorInfo.
     /// \param lCsvDistKey  1 to 5.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheck(const char* szCsvPathName,
@@ -77,8 +78,8 @@ public:
                                                       const char* szTetsuzuki);
 
     /// Saves a text as a Shift_JIS file. Sets Result, on failure DetailErrorInfo too.
-    /// \param szData  Taken as Shift_JIS bytes, NOT as UTF-8: a UTF-8 text in Japanese is refused
-    /// or
+    /// \param szCsvPath  Path of the file, in a folder that exists. An existing file is replaced.
+    /// \param szData     Taken as Shift_JIS bytes, NOT as UTF-8: Japanese in UTF-8 is refused or
     ///     comes out as other characters.
     std::shared_ptr<KZIConvertResultEka> CsvWrite(const char* szCsvPath, const char* szData);
 
@@ -113,7 +114,8 @@ public:
                                                            const char* szNozeishaZip1,
                                                            const char* szNozeishaZip2);
 
-    /// As ELCsvCheck. \param lCsvDistKey  1 to 16.
+    /// As ELCsvCheck.
+    /// \param lCsvDistKey  1 to 16.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheckFinance(const char* szCsvPathName,
                                                            std::int64_t lCsvDistKey);
 
@@ -164,7 +166,8 @@ public:
                                                                const char* szTetsuzuki,
                                                                const char* szSoftName);
 
-    /// As ELCsvCheck. \param lCsvDistKey  1 to 10.
+    /// As ELCsvCheck.
+    /// \param lCsvDistKey  1 to 10.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheckCrossBorder(const char* szCsvPathName,
                                                                std::int64_t lCsvDistKey);
 

@@ -97,6 +97,21 @@ TEST_F(FormDefinitionTest, RangeHasTheLabelOfTheItemOverIt)
     EXPECT_EQ(Label(3, 4), "生年月日");
 }
 
+TEST_F(FormDefinitionTest, ItemWithAColumnOfItsOwnIsNotOverTheRangeThatItChecks)
+{
+    EXPECT_EQ(Label(9, 10), "電話") << "that of the range's only known end";
+    m_folder.Write("KZEkaDefine.xml", R"(<define>
+  <report id="001" columnNum="4">
+    <item type="Normal" id="A" column="1" label="金額"><valid id="exist" column="2"/></item>
+    <item type="Normal" id="B" column="2" label="銘柄"/>
+    <item type="Normal" id="C" column="3" label="数量"/>
+  </report>
+</define>
+)");
+    const Definitions definitions(m_folder.Path());
+    EXPECT_EQ(definitions.Find("001")->vecForm.front().labels.Find(2, 3), "銘柄～数量");
+}
+
 TEST_F(FormDefinitionTest, RangeWithoutSuchAnItemHasTheLabelsOfItsEnds)
 {
     EXPECT_EQ(Label(4, 8), "年～電話");

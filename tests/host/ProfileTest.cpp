@@ -55,9 +55,15 @@ dairi_nm = "9"
 dairi_adr = "10"
 tetsuzuki = "11"
 soft_name = "12"
+teishutsu_era = "13"
+teishutsu_year = "14"
+teishutsu_month = "15"
+teishutsu_day = "16"
+nozeisha_zip1 = "17"
+nozeisha_zip2 = "18"
 )");
-    EXPECT_EQ(fields,
-              (GivenFilerFields{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11", "12"}));
+    EXPECT_EQ(fields, (GivenFilerFields{"1", "2", "3", "4", "5", "6", "7", "8", "9", "10", "11",
+                                        "12", "13", "14", "15", "16", "17", "18"}));
 }
 
 struct ValueCase

@@ -18,6 +18,7 @@ ReportedError CellError(long lRecord, long lColumn, KZCEkaMessage_t eMessage)
     ReportedError error;
     error.entry = {lRecord, lColumn, SINGLE_COLUMN, EkaMsgTable[eMessage].szCode, eMessage};
     error.eScope = ErrorScope::Cell;
+    error.nLine = static_cast<std::size_t>(lRecord) + 1;
     error.strName = "氏名";
     error.value = "abc";
     return error;
@@ -74,6 +75,7 @@ TEST(TextReportTest, RefusedFileTellsEachErrorAndTheCounts)
               "  record 4, column 5 (氏名): \"abc\"\n"
               "    HE70003E 全角カタカナ以外の文字が含まれています。\n"
               "    Only full-width katakana may stand here. Replace every other character.\n"
+              "  Errors by column: 5 氏名 × 2, 6 氏名 × 1\n"
               "  Errors by code: HE70001E × 1, HE70003E × 2\n"
               "  To do: correct the file as told above and check it again.\n");
 }
@@ -185,16 +187,22 @@ TEST(JsonReportTest, RefusedFileHasResultProcedureAndCounts)
     EXPECT_EQ(file["procedure"], "PGE5020");
     EXPECT_EQ(file["counts"],
               json::parse(R"({"records": 20, "recordsWithErrors": 2, "errors": 3, "listed": 3,
-                              "moreErrors": false, "byCode": {"HE70001E": 1, "HE70003E": 2}})"));
+                              "moreErrors": false, "byCode": {"HE70001E": 1, "HE70003E": 2},
+                              "byColumn": [
+                                {"column": 5, "columnEnd": null, "label": "氏名", "errors": 2},
+                                {"column": 6, "columnEnd": null, "label": "氏名", "errors": 1}]})"));
 }
 
 TEST(JsonReportTest, ErrorHasPlaceLabelValueCodeAndText)
 {
     json error = Json(RefusedReport())["files"][0]["errors"][0];
     error.erase("advice");
-    EXPECT_EQ(error, json::parse(R"({"scope": "cell", "record": 3, "column": 5, "columnEnd": null,
+    EXPECT_EQ(
+        error,
+        json::parse(R"({"scope": "cell", "record": 3, "line": 4, "column": 5, "columnEnd": null,
                               "argument": null, "label": "氏名", "value": "abc", "code": "HE70003E",
-                              "message": "全角カタカナ以外の文字が含まれています。", "hint": null})"));
+                              "message": "全角カタカナ以外の文字が含まれています。", "rule": null,
+                              "hint": null})"));
 }
 
 TEST(JsonReportTest, LimitCutsTheListAndNotTheCounts)

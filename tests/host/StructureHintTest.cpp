@@ -46,8 +46,10 @@ TEST_F(StructureHintTest, LineOfCommasIsAnotherTypeId)
 
 TEST_F(StructureHintTest, UnknownTypeIdIsNamedWithTheKnownOnes)
 {
-    EXPECT_EQ(Hint(HE70021E, "\n\x1b,a,b\n"),
-              "Record 2 begins with \"\\u{1b}\"; the definitions know 002, 008.");
+    EXPECT_EQ(
+        Hint(HE70021E, "\n\x1b,a,b\n"),
+        "Record 2 begins with \"\\u{1b}\"; the definitions know 002, 008, 101 to 116, 201, 202, "
+        "301, 302.");
 }
 
 TEST_F(StructureHintTest, TooManyRecordsAreCounted)

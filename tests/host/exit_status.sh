@@ -4,6 +4,7 @@ source "$(dirname "$0")/support.bash" "$1"
 cp "$samples/PGE5020_pass.csv" pass.csv
 cp "$samples/PGE5020_fail.csv" fail.csv
 profile=(--profile "$samples/filer.toml")
+bundle=$samples/../resources/KZEkaMok.bundle
 
 # --- 0: passed ---
 
@@ -138,14 +139,11 @@ expect_not_in out "passed" "a file with a NUL byte doesn't look passed"
 cp pass.csv 'blank.csv '
 run check 'blank.csv '
 not_checked "a name that ends with a blank"
-printf '101,1\r\n' >finance.csv
-run check finance.csv
-not_checked "a file of the Finance family"
-expect_in out Finance "a file of the Finance family"
-printf '"302",1\r\n' >crossborder.csv
-run check crossborder.csv
-not_checked "a file of the CrossBorder family"
-expect_in out CrossBorder "a file of the CrossBorder family"
+# An operation of the CrossBorder family tells a fault by an empty table.
+{ printf '301,'; iconv -f CP932 -t UTF-8 "$samples/PGE1650_pass.csv"; } >crossborder8.csv
+run check crossborder8.csv
+not_checked "a CrossBorder file in UTF-8"
+expect_in out "UTF-8" "a CrossBorder file in UTF-8 is recognised"
 
 run check pass.csv absent.csv fail.csv
 expect_status 3 "the highest status of several files"
@@ -166,6 +164,19 @@ echo '<definitions><report' >"$KZEKAMOK_BUNDLE/KZEkaDefine.xml"
 run check pass.csv
 not_checked "a torn definition file"
 expect_in err KZEkaDefine.xml "a torn definition file is named"
+cp "$bundle/TaxOffices.xml" "$KZEKAMOK_BUNDLE"
+run check "$samples/PGE2015_pass.csv"
+not_checked "a Finance file without its definition"
+expect_in err Finance/PGE2015_vld.xml "the missing definition of a Finance file is named"
+run check "$samples/PGE1650_pass.csv"
+not_checked "a CrossBorder file without its definition"
+expect_in err CrossBorder/PGE1650_vld.xml "the missing definition of a CrossBorder file is named"
+mkdir "$KZEKAMOK_BUNDLE/Finance"
+cp "$bundle/Finance/PGE2015_vld.xml" "$KZEKAMOK_BUNDLE/Finance"
+run convert "$samples/PGE2015_pass.csv" "${fields[@]}" --teishutsu-date 2026-11-20 -o half.mok
+not_checked "a conversion without the template"
+expect_in err Finance/PGE2015_tpl.xml "a missing template is named"
+[ ! -e half.mok ] || fail "a missing template leaves no document"
 unset KZEKAMOK_BUNDLE
 
 # --- 4: not written ---

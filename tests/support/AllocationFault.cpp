@@ -17,11 +17,14 @@ bool Fails(std::size_t nSize)
     if (!g_bArmed || nSize < g_nLeastSize)
         return false;
     ++g_nCount;
+    if (g_nNumber == 0)
+        return false;
     return g_nCount == g_nNumber ||
            (g_nCount > g_nNumber && g_eKind == AllocationFault::Kind::FromThere);
 }
 
-/// Null if it fails.
+/// Null if it fails. Memory comes from malloc and goes to free, so that the sanitizers watch it and
+/// see a pair that matches.
 void* Allocate(std::size_t nSize, std::size_t nAlignment = 0) noexcept
 {
     if (Fails(nSize))

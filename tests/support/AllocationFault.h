@@ -1,5 +1,5 @@
 // Memory that runs out when a test wants it. A program that links AllocationFault.cpp has all its
-// operators new replaced, those that its shared libraries call too.
+// operators new replaced, those that its shared libraries call too. For programs of one thread.
 #pragma once
 
 #include <cstddef>
@@ -12,7 +12,8 @@ enum class Kind
     FromThere,  ///< that one and all behind it
 };
 
-/// Lets allocations fail from now on. \param nNumber  Which one fails, from 1.
+/// Lets allocations fail from now on.
+/// \param nNumber     Which one fails, from 1; 0 for none, which are counted all the same.
 /// \param nLeastSize  Bytes; smaller ones aren't counted and don't fail.
 void Arm(std::size_t nNumber, Kind eKind, std::size_t nLeastSize = 0);
 

@@ -6,8 +6,10 @@
 #include <string_view>
 #include <utility>
 
-#include "RecordGenerator.h"
 #include "ShiftJisText.h"
+#include "example/RecordGenerator.h"
+
+using namespace host;
 
 namespace {
 

@@ -1,3 +1,4 @@
+/// \file
 /// The operations of the library for hosts in Objective-C.
 ///
 /// Texts cross in UTF-8 in both directions. A nil argument omits a value. Every operation but
@@ -149,7 +150,8 @@
                              nozeishaZip1:(NSString*)szNozeishaZip1
                              nozeishaZip2:(NSString*)szNozeishaZip2;
 
-/// As ELCsvCheck:. \param lCsvDistKey  1 to 16.
+/// As ELCsvCheck:.
+/// \param lCsvDistKey  1 to 16.
 - (KZIConvertResultEka*)ELCsvCheckFinance:(NSString*)szCsvPathName csvDistKey:(int64_t)lCsvDistKey;
 
 /// As ELCsvConvMok:, with the arguments of CsvConvMokFinance:.
@@ -200,7 +202,8 @@
                                     tetsuzuki:(NSString*)szTetsuzuki
                                      softName:(NSString*)szSoftName;
 
-/// As ELCsvCheck:. \param lCsvDistKey  1 to 10.
+/// As ELCsvCheck:.
+/// \param lCsvDistKey  1 to 10.
 - (KZIConvertResultEka*)ELCsvCheckCrossBorder:(NSString*)szCsvPathName
                                    csvDistKey:(int64_t)lCsvDistKey;
 

@@ -1,0 +1,308 @@
+#include "CheckWords.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "CText.h"
+#include "Language.h"
+#include "WordKinds.h"
+#include "validator/ItemCatalogue.h"
+
+namespace host {
+namespace {
+
+constexpr long YEAR_COLUMNS = 2;
+constexpr long DATE_COLUMNS = 4;
+constexpr long COLUMN_MAX = 1'000'000'000;  ///< no error has a greater one
+
+constexpr Text NOT_GIVEN = {"(not given)", "（指定なし）"};
+constexpr Text ALTERNATIVE = {"; or ", "／"};
+
+/// How many columns an item looks at from its own.
+long OwnColumns(ErrorPlace ePlace)
+{
+    switch (ePlace) {
+        case ErrorPlace::Pair:
+        case ErrorPlace::PairOrColumn:
+            return YEAR_COLUMNS;
+        case ErrorPlace::Date:
+        case ErrorPlace::DateOrColumn:
+        case ErrorPlace::DateOrCell:
+            return DATE_COLUMNS;
+        default:
+            return 1;
+    }
+}
+
+/// Fills the templates of a check item with the parameters of a check.
+class Template
+{
+public:
+    Template(const CatalogueItem& item, const CheckDefinition& check, const FormDefinition& form)
+        : m_item(item), m_context{check, form, OwnColumns(item.ePlace)}
+    {
+    }
+
+    std::string Fill(const ItemWords& words)
+    {
+        return FillText(Say({words.szEnglish, words.szJapanese}));
+    }
+
+private:
+    std::string FillText(std::string_view strTemplate)
+    {
+        std::string strText;
+        while (!strTemplate.empty()) {
+            const std::size_t nMark = strTemplate.find_first_of("{[");
+            strText += strTemplate.substr(0, nMark);
+            if (nMark == std::string_view::npos)
+                break;
+            strTemplate.remove_prefix(nMark);
+            const bool bChoice = strTemplate.front() == '[';
+            const std::size_t nEnd = strTemplate.find(bChoice ? ']' : '}');
+            const std::string_view strInner = strTemplate.substr(1, nEnd - 1);
+            strText += bChoice ? Choose(strInner) : FillPlace(strInner);
+            strTemplate.remove_prefix(std::min(nEnd, strTemplate.size() - 1) + 1);
+        }
+        return strText;
+    }
+
+    /// The first alternative that can be used.
+    std::string Choose(std::string_view strAlternatives)
+    {
+        while (true) {
+            const std::size_t nEnd = strAlternatives.find('|');
+            m_bUsable = true;
+            const std::string strText = FillText(strAlternatives.substr(0, nEnd));
+            if (m_bUsable)
+                return strText;
+            if (nEnd == std::string_view::npos)
+                return {};
+            strAlternatives.remove_prefix(nEnd + 1);
+        }
+    }
+
+    std::string FillPlace(std::string_view strPlace)
+    {
+        const std::size_t nName = strPlace.find_first_of(":=");
+        const std::string strParameter = Parameter(strPlace.substr(0, nName));
+        if (nName == std::string_view::npos)
+            return Note(strParameter.empty() ? std::nullopt : std::optional(strParameter),
+                        strParameter);
+        const std::string_view strRest = strPlace.substr(nName + 1);
+        if (strPlace[nName] == '=')
+            return Note(strParameter == strRest ? std::optional<std::string>("") : std::nullopt,
+                        "");
+        return Note(WriteKind(strRest, strParameter, m_context), strParameter);
+    }
+
+    /// The words, or what is written in the definition in place of words.
+    std::string Note(const std::optional<std::string>& words, const std::string& strParameter)
+    {
+        if (words)
+            return *words;
+        m_bUsable = false;
+        return strParameter.empty() ? Say(NOT_GIVEN) : strParameter;
+    }
+
+    /// Empty for an attribute that the item doesn't read.
+    std::string Parameter(std::string_view strName) const
+    {
+        const CheckDefinition& check = m_context.check;
+        if (strName == "column")
+            return std::to_string(check.lColumn);
+        if (strName == "value" && m_item.bValue)
+            return check.strValue;
+        if (strName == "min" && m_item.bMin)
+            return check.strMin;
+        if (strName == "max" && m_item.bMax)
+            return check.strMax;
+        return {};
+    }
+
+    const CatalogueItem& m_item;
+    const WordContext m_context;
+    bool m_bUsable = true;  ///< every placeholder of the current alternative
+};
+
+/// The check without its conditions.
+std::string RuleWords(const CheckDefinition& check, const FormDefinition& form)
+{
+    const CatalogueItem* pItem = FindCatalogueItem(check.strKeyword);
+    const std::string strRule =
+        pItem != nullptr ? Template(*pItem, check, form).Fill(pItem->rule) : std::string();
+    return !strRule.empty() ? strRule : check.strKeyword;
+}
+
+std::string ConditionWords(const CheckDefinition& check, const FormDefinition& form)
+{
+    const CatalogueItem* pItem = FindCatalogueItem(check.strKeyword);
+    if (pItem != nullptr && *pItem->condition.szEnglish != '\0')
+        if (std::string strCondition = Template(*pItem, check, form).Fill(pItem->condition);
+            !strCondition.empty())
+            return strCondition;
+    const long lColumns = pItem != nullptr ? OwnColumns(pItem->ePlace) : 1;
+    const WordContext context{check, form, lColumns};
+    const std::string strColumns =
+        WriteKind("own", std::to_string(check.lColumn), context).value_or("");
+    return Say(lColumns == 1 ? Text{"{1} holds {2}", "{1}が{2}である"}
+                             : Text{"{1} hold {2}", "{1}が{2}である"},
+               {strColumns, RuleWords(check, form)});
+}
+
+struct ColumnSpan
+{
+    long lFirst;
+    long lLast;
+};
+
+/// Where an error of the check may be placed.
+std::vector<ColumnSpan> ErrorSpans(const CatalogueItem& item, const CheckDefinition& check)
+{
+    const auto from = [](long lFirst, long lColumns) {
+        const long lStart = std::clamp(lFirst, 0L, COLUMN_MAX);
+        return ColumnSpan{lStart, lStart + lColumns - 1};
+    };
+    const bool bMoved = !check.strErrColumn.empty();
+    const ColumnSpan own = from(check.lColumn, OwnColumns(item.ePlace));
+    const ColumnSpan moved = from(CText::ReadLong(check.strErrColumn.c_str()), DATE_COLUMNS);
+    switch (item.ePlace) {
+        case ErrorPlace::None:
+            return {};
+        case ErrorPlace::Cell:
+        case ErrorPlace::Pair:
+        case ErrorPlace::Date:
+            return {own};
+        case ErrorPlace::PairOrColumn:
+        case ErrorPlace::DateOrColumn:
+        case ErrorPlace::DateOrCell:
+            return {bMoved ? moved : own};
+        case ErrorPlace::GroupOfKind:
+            return {from(check.lColumn, DATE_COLUMNS), from(check.lColumn, YEAR_COLUMNS), own};
+        case ErrorPlace::CellOrDate: {
+            constexpr std::size_t DAYS = 5;
+            const auto vecToken = CText::SplitTokens(check.strValue);
+            const bool bDays = vecToken.size() > DAYS && vecToken[DAYS] == "days";
+            return {from(check.lColumn, bDays ? DATE_COLUMNS : 1)};
+        }
+        case ErrorPlace::YearOfMax:
+            return {from(CText::ReadLong(check.strMax.c_str()), YEAR_COLUMNS)};
+        case ErrorPlace::ColumnsOfValue: {
+            const auto vecColumn = CText::SplitNumbers(check.strValue);
+            if (vecColumn.empty())
+                return {};
+            return {{vecColumn.front(), vecColumn.back()}};
+        }
+    }
+    return {};
+}
+
+/// The check names the record of its errors.
+bool HasErrorRecord(const CatalogueItem& item, const CheckDefinition& check)
+{
+    return item.ePlace == ErrorPlace::DateOrCell && !check.strErrRow.empty();
+}
+
+bool ReportsAt(const CatalogueItem& item, const CheckDefinition& check, const DetailEntry& entry)
+{
+    if (HasErrorRecord(item, check) && CText::ReadLong(check.strErrRow.c_str()) != entry.lRecord)
+        return false;
+    const long lLast = entry.lColumnEnd == SINGLE_COLUMN ? entry.lColumn : entry.lColumnEnd;
+    return std::ranges::any_of(ErrorSpans(item, check), [&entry, lLast](const ColumnSpan& span) {
+        return span.lFirst == entry.lColumn && span.lLast == lLast;
+    });
+}
+
+bool ReportsCode(const CatalogueItem& item, const CheckDefinition& check, KZCEkaMessage_t eMessage)
+{
+    const KZCEkaMessage_t eOverride = FindEkaMessage(check.strMessage);
+    // A group of a date keeps its code in the forms that it knows.
+    const bool bOwn = eOverride == MSG_NONE || item.ePlace == ErrorPlace::GroupOfKind;
+    return (eOverride != MSG_NONE && eMessage == eOverride) ||
+           (bOwn && std::ranges::find(item.messages, eMessage) != item.messages.end());
+}
+
+/// The condition looks at errors, not at what is written.
+bool IsOnErrors(const CheckDefinition& condition)
+{
+    const CatalogueItem* pItem = FindCatalogueItem(condition.strKeyword);
+    return pItem != nullptr && pItem->ePlace == ErrorPlace::None;
+}
+
+std::string WholeWords(const CheckDefinition& check, const FormDefinition& form, bool bOnErrors)
+{
+    std::string strConditions;
+    for (const CheckDefinition& condition : check.vecCondition) {
+        // A condition without a column of its own is dropped.
+        if (condition.lColumn <= 0 || (!bOnErrors && IsOnErrors(condition)))
+            continue;
+        if (!strConditions.empty())
+            strConditions += Say({" and ", "、かつ"});
+        strConditions += ConditionWords(condition, form);
+    }
+    const std::string strRule = RuleWords(check, form);
+    return strConditions.empty() ? strRule
+                                 : Say({"if {1}: {2}", "{1}場合：{2}"}, {strConditions, strRule});
+}
+
+/// Adds the words of the checks that report such an error there, each once.
+/// \param bOwnForm  The form is that of the error's record.
+void AddRules(std::vector<std::string>& vecWords,
+              const FormDefinition& form,
+              const DetailEntry& entry,
+              bool bOwnForm)
+{
+    if (entry.lRecord == FILE_RECORD || entry.lRecord == ARGUMENT_RECORD ||
+        entry.eMessage == MSG_NONE)
+        return;
+    for (const ItemDefinition& item : form.vecItem) {
+        for (const CheckDefinition& check : item.vecCheck) {
+            const CatalogueItem* pItem = FindCatalogueItem(check.strKeyword);
+            if (pItem == nullptr || !(bOwnForm || HasErrorRecord(*pItem, check)) ||
+                !ReportsCode(*pItem, check, entry.eMessage) || !ReportsAt(*pItem, check, entry))
+                continue;
+            std::string strWords = WholeWords(check, form, false);
+            if (std::ranges::find(vecWords, strWords) == vecWords.end())
+                vecWords.push_back(std::move(strWords));
+        }
+    }
+}
+
+std::string JoinRules(const std::vector<std::string>& vecWords)
+{
+    std::string strRule;
+    for (const std::string& strWords : vecWords)
+        strRule += (strRule.empty() ? "" : Say(ALTERNATIVE)) + strWords;
+    return strRule;
+}
+
+}  // namespace
+
+std::string CheckWords(const CheckDefinition& check, const FormDefinition& form)
+{
+    return WholeWords(check, form, true);
+}
+
+std::string RuleOf(const FormDefinition& form, const DetailEntry& entry)
+{
+    std::vector<std::string> vecWords;
+    AddRules(vecWords, form, entry, true);
+    return JoinRules(vecWords);
+}
+
+std::string RuleOf(const ProcedureDefinition& procedure,
+                   const DetailEntry& entry,
+                   std::size_t nRecordCount)
+{
+    if (entry.lRecord <= FILE_RECORD)
+        return {};
+    const FormDefinition* pOwn =
+        procedure.FormAt(static_cast<std::size_t>(entry.lRecord), nRecordCount);
+    std::vector<std::string> vecWords;
+    for (const FormDefinition& form : procedure.vecForm)
+        AddRules(vecWords, form, entry, &form == pOwn);
+    return JoinRules(vecWords);
+}
+
+}  // namespace host

@@ -1,0 +1,11 @@
+// The style and the script of the report page: the files of host/html/, embedded by CMake.
+#pragma once
+
+#include <string_view>
+
+namespace host {
+
+extern const std::string_view REPORT_STYLE;
+extern const std::string_view REPORT_SCRIPT;
+
+}  // namespace host

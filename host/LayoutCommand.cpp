@@ -1,0 +1,65 @@
+#include "LayoutCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include <iostream>
+
+#include "Installation.h"
+#include "Language.h"
+#include "Layout.h"
+#include "WantedProcedures.h"
+
+namespace host {
+namespace {
+
+constexpr Text SUMMARY = {"Tells what stands in which column of a file, and what is asked of it",
+                          "ファイルの各項目の内容とチェックを示します"};
+constexpr Text TYPE_ID_HELP = {"Type ids such as 002; none lists them all",
+                               "申請区分（例：002）。省略時は一覧を表示します"};
+constexpr Text FORMAT_HELP = {"markdown (default), html or csv (UTF-8)",
+                              "markdown（既定）、html、csv（UTF-8）"};
+constexpr Text FOOTER = {R"(Examples:
+  kzekamok layout
+  kzekamok layout 002
+  kzekamok layout 101 --format html > salaries.html)",
+                         R"(例:
+  kzekamok layout
+  kzekamok layout 002
+  kzekamok layout 101 --format html > salaries.html)"};
+
+}  // namespace
+
+CLI::App* LayoutCommand::AddTo(CLI::App& app)
+{
+    CLI::App* pCommand = app.add_subcommand("layout", Say(SUMMARY));
+    pCommand->add_option("TYPEID", m_vecTypeId, Say(TYPE_ID_HELP))->type_name("");
+    pCommand->add_option("--format", m_strFormat, Say(FORMAT_HELP))
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"markdown", "html", "csv"}).description(""));
+    pCommand->footer(Say(FOOTER));
+    return pCommand;
+}
+
+ExitStatus LayoutCommand::Run()
+{
+    const Definitions definitions;
+    if (definitions.Bundle().empty()) {
+        std::cerr << "kzekamok: " << InstallationProblem() << '\n';
+        return ExitStatus::NotChecked;
+    }
+    std::vector<std::string> vecProblem;
+    const auto vecProcedure = WantedProcedures(definitions, m_vecTypeId, vecProblem);
+    if (m_vecTypeId.empty())
+        WriteProcedureList(std::cout, vecProcedure);
+    else if (m_strFormat == "html")
+        WriteLayoutHtml(std::cout, vecProcedure);
+    else if (m_strFormat == "csv")
+        WriteLayoutCsv(std::cout, vecProcedure);
+    else
+        WriteLayoutMarkdown(std::cout, vecProcedure);
+    for (const std::string& strProblem : vecProblem)
+        std::cerr << "kzekamok: " << strProblem << '\n';
+    return vecProblem.empty() ? ExitStatus::Passed : ExitStatus::NotChecked;
+}
+
+}  // namespace host

@@ -1,0 +1,23 @@
+// `kzekamok layout`
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Command.h"
+
+namespace host {
+
+/// Writes what stands in which column of a file, and what is asked of it.
+class LayoutCommand final : public Command
+{
+public:
+    CLI::App* AddTo(CLI::App& app) override;
+    ExitStatus Run() override;
+
+private:
+    std::vector<std::string> m_vecTypeId;
+    std::string m_strFormat = "markdown";
+};
+
+}  // namespace host

@@ -1,0 +1,82 @@
+#include "RulesCommand.h"
+
+#include <CLI/CLI.hpp>
+
+#include <nlohmann/json.hpp>
+
+#include <iostream>
+
+#include "Installation.h"
+#include "ItemCatalogueText.h"
+#include "JsonReport.h"
+#include "Language.h"
+#include "RulesJson.h"
+#include "WantedProcedures.h"
+
+namespace host {
+namespace {
+
+constexpr int INDENT = 2;
+
+constexpr Text SUMMARY = {"Writes check items, messages and procedures for other tools",
+                          "チェック項目・メッセージ・手続の一覧を、他のツール向けに出力します"};
+constexpr Text TYPE_ID_HELP = {"Only the procedures of these type ids; default: all",
+                               "手続を絞る申請区分（省略時はすべて）"};
+constexpr Text FORMAT_HELP = {"json (default): everything; markdown: the check items for people",
+                              "json（既定）はすべて、markdownはチェック項目の説明"};
+constexpr Text FOOTER = {R"(Examples:
+  kzekamok rules > rules.json
+  kzekamok rules 002 101 | jq '.procedures[].forms[].items[] | {column, label}'
+  kzekamok rules --format markdown --lang ja)",
+                         R"(例:
+  kzekamok rules > rules.json
+  kzekamok rules 002 101 | jq '.procedures[].forms[].items[] | {column, label}'
+  kzekamok rules --format markdown --lang ja)"};
+
+}  // namespace
+
+CLI::App* RulesCommand::AddTo(CLI::App& app)
+{
+    CLI::App* pCommand = app.add_subcommand("rules", Say(SUMMARY));
+    pCommand->add_option("TYPEID", m_vecTypeId, Say(TYPE_ID_HELP))->type_name("");
+    pCommand
+        ->add_option_function<std::string>(
+            "--format",
+            [this](const std::string& strFormat) { m_bMarkdown = strFormat == "markdown"; },
+            Say(FORMAT_HELP))
+        ->type_name("FORMAT")
+        ->check(CLI::IsMember({"json", "markdown"}).description(""));
+    pCommand->footer(Say(FOOTER));
+    return pCommand;
+}
+
+ExitStatus RulesCommand::Run()
+{
+    if (m_bMarkdown) {
+        WriteItemCatalogue(std::cout);
+        return ExitStatus::Passed;
+    }
+    const Definitions definitions;
+    if (definitions.Bundle().empty()) {
+        std::cerr << "kzekamok: " << InstallationProblem() << '\n';
+        return ExitStatus::NotChecked;
+    }
+    std::vector<std::string> vecProblem;
+    nlohmann::ordered_json procedures = nlohmann::ordered_json::array();
+    for (const ProcedureDefinition* pProcedure :
+         WantedProcedures(definitions, m_vecTypeId, vecProblem))
+        procedures.push_back(ProcedureToJson(*pProcedure));
+    const nlohmann::ordered_json document = {
+        {"tool", "kzekamok"},
+        {"version", KZEKAMOK_VERSION},
+        {"checkItems", CheckItemsToJson()},
+        {"messages", MessagesToJson()},
+        {"procedures", std::move(procedures)},
+    };
+    std::cout << JsonText(document, INDENT) << '\n';
+    for (const std::string& strProblem : vecProblem)
+        std::cerr << "kzekamok: " << strProblem << '\n';
+    return vecProblem.empty() ? ExitStatus::Passed : ExitStatus::NotChecked;
+}
+
+}  // namespace host

@@ -1,0 +1,23 @@
+// `kzekamok rules`
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "Command.h"
+
+namespace host {
+
+/// Writes the whole catalogue for other tools: check items, messages, procedures.
+class RulesCommand final : public Command
+{
+public:
+    CLI::App* AddTo(CLI::App& app) override;
+    ExitStatus Run() override;
+
+private:
+    std::vector<std::string> m_vecTypeId;  ///< empty for all
+    bool m_bMarkdown = false;
+};
+
+}  // namespace host

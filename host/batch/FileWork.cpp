@@ -1,0 +1,166 @@
+#include "batch/FileWork.h"
+
+#include <KZEkaMok/KZEkaMok.h>
+#include <unistd.h>
+
+#include <exception>
+#include <filesystem>
+#include <nlohmann/json.hpp>
+#include <utility>
+
+#include "CheckFile.h"
+#include "ConvertFile.h"
+#include "FormDefinition.h"
+#include "JsonReport.h"
+#include "Language.h"
+#include "Profile.h"
+#include "SafeText.h"
+#include "UsageError.h"
+
+namespace fs = std::filesystem;
+
+namespace host {
+namespace {
+
+constexpr const char* PROFILE_ENDING = ".toml";
+constexpr std::size_t PACKED_HEAD = 2;  // outcome and status
+
+class FileWork final : public Work
+{
+public:
+    FileWork(const BatchSettings& settings, const std::vector<BatchFile>& vecFile)
+        : m_settings(settings), m_vecFile(vecFile)
+    {
+    }
+
+    std::string Do(std::size_t nJob) override
+    {
+        return Pack(MakeAnswer(Report(m_vecFile[nJob]), m_settings.style));
+    }
+
+private:
+    FileReport Report(const BatchFile& file)
+    {
+        try {
+            return m_settings.bCheckOnly ? Check(file) : Convert(file);
+        } catch (const std::exception& error) {
+            FileReport report;
+            report.strFile = file.strPath;
+            report.strProblem = Say(
+                {"The file was not checked: {1}.", "ファイルをチェックできませんでした（{1}）。"},
+                {error.what()});
+            report.strAdvice =
+                Say({"Make sure that enough memory is free.", "メモリの空きを確認してください。"});
+            return report;
+        }
+    }
+
+    FileReport Check(const BatchFile& file)
+    {
+        KZICsvConvMokEka library;
+        FileReport report =
+            FileCheck(library, m_definitions, file.strPath, m_settings.family).Run();
+        library.Terminate();
+        return report;
+    }
+
+    FileReport Convert(const BatchFile& file)
+    {
+        FilerFields fields;
+        try {
+            fields = FieldsOf(file);
+        } catch (const UsageError& error) {
+            return CheckOnly(file, Outcome::NotConverted, ExitStatus::Usage,
+                             Say({"The file passed the check, but its own profile is wrong: {1}",
+                                  "チェックには合格しましたが、このファイルのプロファイルに誤りが"
+                                  "あります：{1}"},
+                                 {error.what()}),
+                             Say({"Correct the profile.", "プロファイルを修正してください。"}));
+        }
+        const fs::path path = fs::path(m_settings.strOutput) / file.strDocument;
+        std::error_code error;
+        fs::create_directories(path.parent_path(), error);
+        if (error)
+            return CheckOnly(file, Outcome::NotWritten, ExitStatus::NotWritten,
+                             Say({"The folder {1} of the document could not be made: {2}.",
+                                  "文書のフォルダー {1} を作成できませんでした（{2}）。"},
+                                 {MakeSafe(path.parent_path().string()), error.message()}),
+                             Say({"Make sure that the output folder can be written to.",
+                                  "出力フォルダーに書き込めることを確認してください。"}));
+        KZICsvConvMokEka library;
+        FileReport report = FileConversion(library, m_definitions, file.strPath, path.string(),
+                                           fields, {.family = m_settings.family})
+                                .Run();
+        library.Terminate();
+        return report;
+    }
+
+    /// A file that passes the check has the outcome all the same.
+    FileReport CheckOnly(const BatchFile& file,
+                         Outcome eOutcome,
+                         ExitStatus eStatus,
+                         const std::string& strProblem,
+                         const std::string& strAdvice)
+    {
+        FileReport report = Check(file);
+        if (report.eOutcome != Outcome::Passed)
+            return report;
+        report.eOutcome = eOutcome;
+        report.eStatus = eStatus;
+        report.strProblem = strProblem;
+        report.strAdvice = strAdvice;
+        return report;
+    }
+
+    /// Those of the batch, but for what the file's own profile says. An option wins over both.
+    FilerFields FieldsOf(const BatchFile& file) const
+    {
+        FilerFields fields = m_settings.fields;
+        const std::string strProfile = ProfileBeside(file.strPath);
+        if (access(strProfile.c_str(), F_OK) != 0)
+            return fields;
+        const GivenFilerFields given = ReadProfile(strProfile);
+        for (std::size_t n = 0; n < FILER_FIELD_COUNT; ++n)
+            if (given[n] && fields.szOption[n] == nullptr)
+                fields[n] = *given[n];
+        return fields;
+    }
+
+    const BatchSettings& m_settings;
+    const std::vector<BatchFile>& m_vecFile;
+    Definitions m_definitions;
+};
+
+}  // namespace
+
+FileAnswer MakeAnswer(const FileReport& report, const ReportStyle& style)
+{
+    return {report.eOutcome, report.eStatus, report.strProblem,
+            JsonText(FileToJson(report, style))};
+}
+
+std::string Pack(const FileAnswer& answer)
+{
+    std::string strPacked = {static_cast<char>(answer.eOutcome), static_cast<char>(answer.eStatus)};
+    return strPacked + answer.strProblem + '\0' + answer.strReport;
+}
+
+FileAnswer Unpack(const std::string& strPacked)
+{
+    const std::size_t nEnd = strPacked.find('\0', PACKED_HEAD);
+    return {static_cast<Outcome>(strPacked[0]), static_cast<ExitStatus>(strPacked[1]),
+            strPacked.substr(PACKED_HEAD, nEnd - PACKED_HEAD), strPacked.substr(nEnd + 1)};
+}
+
+std::string ProfileBeside(const std::string& strFile)
+{
+    return fs::path(strFile).replace_extension(PROFILE_ENDING).string();
+}
+
+std::unique_ptr<Work> MakeFileWork(const BatchSettings& settings,
+                                   const std::vector<BatchFile>& vecFile)
+{
+    return std::make_unique<FileWork>(settings, vecFile);
+}
+
+}  // namespace host

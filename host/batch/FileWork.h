@@ -1,0 +1,52 @@
+// What a worker process of a batch does with a file.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Family.h"
+#include "FileReport.h"
+#include "FilerFields.h"
+#include "Report.h"
+#include "batch/FileList.h"
+#include "batch/WorkerPool.h"
+
+namespace host {
+
+struct BatchSettings
+{
+    std::string strOutput;  ///< folder of the documents and the report
+    std::size_t nWorkers = 1;
+    double dTimeout = 0;  ///< most seconds for a file; 0 for no limit
+    bool bCheckOnly = false;
+    bool bFresh = false;  ///< results of earlier runs don't count
+    bool bQuiet = false;  ///< no progress
+    ReportStyle style;
+    FilerFields fields;
+    std::optional<Family> family;  ///< nothing: found from each file
+};
+
+/// What a worker tells of a file.
+struct FileAnswer
+{
+    Outcome eOutcome = Outcome::NotChecked;
+    ExitStatus eStatus = ExitStatus::NotChecked;
+    std::string strProblem;  ///< that of the report
+    std::string strReport;   ///< the report as JSON on one line
+};
+
+FileAnswer MakeAnswer(const FileReport& report, const ReportStyle& style);
+std::string Pack(const FileAnswer& answer);
+FileAnswer Unpack(const std::string& strPacked);
+
+/// The profile that counts for one file alone: NAME.toml beside NAME.csv, whether or not it is
+/// there.
+std::string ProfileBeside(const std::string& strFile);
+
+/// \param settings, vecFile  Have to live as long as the work.
+std::unique_ptr<Work> MakeFileWork(const BatchSettings& settings,
+                                   const std::vector<BatchFile>& vecFile);
+
+}  // namespace host

@@ -1,0 +1,863 @@
+#include "RecordGenerator.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+#include "EraDate.h"
+#include "KZCEkaCommon.h"
+#include "KZCEkaTaxOffices.h"
+#include "KZCEkaXDOM.h"
+#include "KZCValidResult.h"
+#include "ShiftJis.h"
+
+namespace host {
+
+using std::chrono::days;
+using std::chrono::sys_days;
+using std::chrono::year;
+using std::chrono::year_month_day;
+using std::chrono::years;
+
+namespace {
+
+constexpr int CANDIDATES = 12;       // draws of a unit, of which the best is kept
+constexpr int MENDING_STEPS = 1500;  // units drawn anew before a record is given up
+constexpr int RECORD_ATTEMPTS = 8;   // records begun afresh before the form is given up
+constexpr long LONGEST_DRAWN = 16;   // characters of a text that isn't drawn to its limit
+constexpr sys_days EARLIEST = year{1930} / 1 / 1;
+constexpr sys_days RECENT = year{2010} / 1 / 1;
+constexpr sys_days LATEST = year{2031} / 12 / 31;
+
+constexpr const char* DIGITS = "0123456789";
+constexpr const char* LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
+
+/// Classes of characters from the narrowest to the widest, each with characters of its own.
+struct TextClass
+{
+    const char* szKeyword;
+    const char* szCharacters;
+};
+constexpr std::array<TextClass, 9> TEXT_CLASSES = {{
+    {"number", DIGITS},
+    {"alphabet", LETTERS},
+    {"alnum", "ABCDEFGHJKLMNPQRSTUVWXYZabcdefghkmnprstuvwxyz0123456789-"},
+    {"multikana",
+     "アイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤユヨラリルレロワヲン"
+     "ガギグゲゴパピプペポッャュョー"},
+    {"istring",
+     "見本例題甲乙丙丁東西南北山川田中町村県市一二三四五六七八九十株式会社ひらがなカタカナ０１２３"
+     "ＡＢＣ－"},
+    {"multibyte", "見本例題甲乙丙丁東西南北山川田中町村県市ひらがなカタカナ０１２３ＡＢＣ"},
+    {"multikana_2", "アカサタナハマヤラワガパーＡＢＣ１２３abcXYZ0123456789&-."},
+    {"alnumsbl", "ABCDEFGHJKLMNPQRSTUVWXYZabcdefghkmnprstuvwxyz0123456789-_.@/+"},
+    {"lvystring", "見本例題甲乙丙丁東西南北ひらがなカタカナ０１２ＡＢＣabcXYZ0123456789-./"},
+}};
+
+/// The text for people.
+std::string ToDisplay(const std::string& strShiftJis)
+{
+    return ShiftJis::ToUtf8(strShiftJis).value_or("?");
+}
+
+/// A UTF-8 text as the bytes of a CSV file. Throws std::runtime_error if it has no place there.
+std::string ToShiftJis(const std::string& strUtf8)
+{
+    const auto strUnits = Utf8::Decode(strUtf8);
+    auto strBytes = strUnits ? ShiftJis::Encode(*strUnits) : std::nullopt;
+    if (!strBytes)
+        throw std::runtime_error("not a text of Shift_JIS: " + strUtf8);
+    return std::move(*strBytes);
+}
+
+/// Columns that tell the generation. The reference number, where there is one, stands first.
+std::vector<long> GenerationColumns(const std::string& strTypeId)
+{
+    if (strTypeId == "001")
+        return {2, 3, 4, 5, 23, 24};
+    if (strTypeId == "002")
+        return {19};
+    if (strTypeId == "007")
+        return {24, 7, 19, 20, 21, 22, 28, 29};
+    if (strTypeId == "008")
+        return {19, 2, 14, 15, 16, 17};
+    return {};
+}
+
+/// The characters of a UTF-8 text, each in Shift_JIS.
+std::vector<std::string> Characters(const std::string& strUtf8)
+{
+    std::vector<std::string> vecCharacter;
+    for (std::size_t nStart = 0; nStart < strUtf8.size();) {
+        std::size_t nEnd = nStart + 1;
+        while (nEnd < strUtf8.size() && (static_cast<unsigned char>(strUtf8[nEnd]) & 0xc0) == 0x80)
+            ++nEnd;
+        vecCharacter.push_back(ToShiftJis(strUtf8.substr(nStart, nEnd - nStart)));
+        nStart = nEnd;
+    }
+    return vecCharacter;
+}
+
+int WeightedSum(const std::string& strDigits, const std::vector<int>& vecWeight)
+{
+    int nSum = 0;
+    for (std::size_t n = 0; n < vecWeight.size(); ++n)
+        nSum += (strDigits[n] - '0') * vecWeight[n];
+    return nSum;
+}
+
+/// A literal "YYYYMMDD" or "YYYY/MM/DD".
+std::optional<sys_days> LiteralDay(std::string strDate)
+{
+    std::erase(strDate, '/');
+    if (strDate.size() != 8)
+        return std::nullopt;
+    return DayOf(static_cast<int>(NumberOf(strDate.substr(0, 4))), NumberOf(strDate.substr(4, 2)),
+                 NumberOf(strDate.substr(6, 2)));
+}
+
+int YearOf(sys_days day)
+{
+    return static_cast<int>(year_month_day{day}.year());
+}
+
+bool Intersects(const std::set<long>& setColumn, const std::vector<long>& vecColumn)
+{
+    return std::ranges::any_of(vecColumn,
+                               [&](long lColumn) { return setColumn.contains(lColumn); });
+}
+
+bool Reads(const CheckRule& rule, const std::vector<long>& vecColumn)
+{
+    return Intersects(rule.setReads, vecColumn) ||
+           std::ranges::any_of(rule.vecCondition, [&](const CheckRule& condition) {
+               return Intersects(condition.setReads, vecColumn);
+           });
+}
+
+bool Holds(const CheckRule& condition, const RecordTable& table, long lRow)
+{
+    return condition.pItem->ValidateOuter(&table, lRow, -1) == 0;
+}
+
+}  // namespace
+
+std::vector<TaxOffice> ReadTaxOffices(const std::string& strPath)
+{
+    KZCEkaXDOM dom;
+    if (!dom.Initialize() || !dom.Parse(strPath.c_str()) || dom.MoveFirstChild() != 0)
+        throw std::runtime_error("can't read " + strPath);
+    std::vector<TaxOffice> vecOffice;
+    do {
+        if (dom.GetAttribute("OfficeType") == "5")
+            vecOffice.push_back({dom.GetAttribute("OfficeCode"), dom.GetAttribute("OfficeName")});
+    } while (dom.MoveNextSibling() == 0);
+    return vecOffice;
+}
+
+CheckPhase::CheckPhase(KZCEkaCommon::EXEC_MODE eMode)
+{
+    KZCEkaCommon::setExecMode(eMode);
+    KZCEkaTaxOffices::instance()->Initialize();
+    KZCEkaCommon::SetCsvCheckFlag(true);
+}
+
+CheckPhase::~CheckPhase()
+{
+    KZCEkaCommon::SetCsvCheckFlag(false);
+    KZCValidResult::instance()->ClearResult();
+}
+
+void RecordGenerator::DayRange::Narrow(sys_days newFirst, sys_days newLast)
+{
+    // A bound that leaves nothing is left to the mending.
+    if (std::max(first, newFirst) > std::min(last, newLast))
+        return;
+    first = std::max(first, newFirst);
+    last = std::min(last, newLast);
+}
+
+/// What the active checks of a cell ask of it.
+struct RecordGenerator::CellShape
+{
+    const TextClass* pClass = nullptr;
+    bool bLineFeeds = false;
+    bool bNumeric = false;
+    std::optional<long> bytes;
+    std::optional<long> characters;
+    long lMaxBytes = 200;
+    long lMaxCharacters = 100;
+    std::optional<std::pair<long, long>> range;
+    std::optional<std::vector<std::string>> tokens;
+    std::vector<std::string> vecNumberKind;
+    std::vector<const CheckRule*> vecDigitRule;
+    std::optional<std::string> fixed;
+    bool bOffice = false;
+    bool bPath = false;
+    std::string strExtension;
+};
+
+RecordGenerator::RecordGenerator(const FormRules& form,
+                                 RecordTable& table,
+                                 std::vector<TaxOffice> vecOffice,
+                                 std::string strFolder,
+                                 unsigned nSeed)
+    : m_form(form),
+      m_table(table),
+      m_vecOffice(std::move(vecOffice)),
+      m_strFolder(std::move(strFolder)),
+      m_random(nSeed)
+{
+    const std::vector<long> vecColumn = GenerationColumns(form.strTypeId);
+    m_setGenerationColumn.insert(vecColumn.begin(), vecColumn.end());
+    if (!vecColumn.empty() && form.strTypeId != "001")
+        m_lReferenceColumn = vecColumn.front();
+    MakeUnits();
+}
+
+// --- units ---
+
+void RecordGenerator::MakeUnits()
+{
+    for (const CheckRule& rule : m_form.vecCheck) {
+        if (IsDateKeyword(rule.strKeyword) || rule.strKeyword == "rangedate_2")
+            AddSpan(UnitKind::DATE, rule.lColumn, 4);
+        if (rule.strKeyword == "age" && !SplitTokens(rule.strValue).empty())
+            AddSpan(UnitKind::DATE, NumberOf(SplitTokens(rule.strValue)[0]), 4);
+    }
+    for (std::size_t nItem = 0; nItem < m_form.vecItem.size(); ++nItem) {
+        if (m_form.vecItem[nItem].strType != "Date")
+            continue;
+        std::set<long> setColumn;
+        for (const ItemRule& child : m_form.vecItem)
+            if (child.strParent == m_form.vecItem[nItem].strId && child.lColumn > 0)
+                setColumn.insert(child.lColumn);
+        if (setColumn.size() == 4 && *setColumn.rbegin() - *setColumn.begin() == 3)
+            AddSpan(UnitKind::DATE, *setColumn.begin(), 4);
+    }
+    for (const CheckRule& rule : m_form.vecCheck) {
+        if (rule.strKeyword == "existdateYYYYMMDD") {
+            std::vector<long> vecColumn;
+            for (const std::string& strToken : SplitTokens(rule.strValue))
+                vecColumn.push_back(NumberOf(strToken));
+            AddUnit(UnitKind::WESTERN_DATE, vecColumn);
+        }
+        if (rule.strKeyword == "taxofficenm")
+            AddSpan(UnitKind::OFFICE, rule.lColumn, 2);
+        if (rule.strKeyword == "equalyear" || rule.strKeyword == "containyear" ||
+            rule.strKeyword == "exist_2")
+            AddSpan(UnitKind::YEAR, rule.lColumn, 2);
+        if (rule.strKeyword == "equalyear" || rule.strKeyword == "rangedate_3")
+            AddSpan(UnitKind::YEAR, NumberOf(rule.strValue), 2);
+        if (rule.strKeyword == "rangedate_2")
+            AddSpan(UnitKind::YEAR, NumberOf(rule.strMax), 2);
+        if (rule.strKeyword == "age" && SplitTokens(rule.strValue).size() > 1)
+            AddSpan(UnitKind::YEAR, NumberOf(SplitTokens(rule.strValue)[1]), 2);
+    }
+    for (long lColumn = m_form.FirstFreeColumn(); lColumn <= m_form.lColumnCount; ++lColumn)
+        AddUnit(UnitKind::CELL, {lColumn});
+    for (Unit& unit : m_vecUnit)
+        for (const CheckRule& rule : m_form.vecCheck)
+            if (Reads(rule, unit.vecColumn))
+                unit.vecCheck.push_back(&rule);
+}
+
+void RecordGenerator::AddSpan(UnitKind eKind, long lFirst, long lCount)
+{
+    std::vector<long> vecColumn;
+    for (long lColumn = lFirst; lColumn < lFirst + lCount; ++lColumn)
+        vecColumn.push_back(lColumn);
+    AddUnit(eKind, vecColumn);
+}
+
+/// Columns that belong to a unit already keep it: the widest kinds come first.
+void RecordGenerator::AddUnit(UnitKind eKind, const std::vector<long>& vecColumn)
+{
+    for (const long lColumn : vecColumn) {
+        if (lColumn < m_form.FirstFreeColumn() || lColumn > m_form.lColumnCount)
+            return;
+        for (const Unit& unit : m_vecUnit)
+            if (std::ranges::find(unit.vecColumn, lColumn) != unit.vecColumn.end())
+                return;
+    }
+    m_vecUnit.push_back({eKind, vecColumn, {}});
+}
+
+// --- records ---
+
+void RecordGenerator::Make(long lRow, std::size_t nTurn)
+{
+    const std::vector<std::string> vecGeneration = m_form.Generations();
+    m_strGeneration = vecGeneration[nTurn % vecGeneration.size()];
+    for (int nAttempt = 0; nAttempt < RECORD_ATTEMPTS; ++nAttempt) {
+        Record record(static_cast<std::size_t>(m_form.lColumnCount));
+        if (m_form.bTypeIdFirst)
+            record.front() = m_form.strTypeId;
+        m_table.Put(lRow, record);
+        for (const Unit& unit : m_vecUnit)
+            Redraw(unit, lRow);
+        for (int nStep = 0; nStep < MENDING_STEPS; ++nStep) {
+            const auto vecRefusal = Refusals(lRow);
+            const bool bGeneration = HasGeneration(lRow);
+            if (vecRefusal.empty() && bGeneration)
+                return;
+            if (vecRefusal.empty() || (!bGeneration && Chance(50))) {
+                std::vector<const Unit*> vecUnit;
+                for (const Unit& unit : m_vecUnit)
+                    if (Intersects(m_setGenerationColumn, unit.vecColumn))
+                        vecUnit.push_back(&unit);
+                if (vecUnit.empty())
+                    break;
+                Redraw(*vecUnit[static_cast<std::size_t>(
+                           Random(0, static_cast<long>(vecUnit.size()) - 1))],
+                       lRow);
+                continue;
+            }
+            const long lLast = static_cast<long>(vecRefusal.size()) - 1;
+            Redraw(RandomUnitOf(*vecRefusal[static_cast<std::size_t>(Random(0, lLast))]), lRow);
+        }
+    }
+    throw std::runtime_error(Complaint(lRow));
+}
+
+bool RecordGenerator::IsActive(const CheckRule& rule, const RecordTable& table, long lRow)
+{
+    return std::ranges::all_of(rule.vecCondition, [&](const CheckRule& condition) {
+        return Holds(condition, table, lRow);
+    });
+}
+
+bool RecordGenerator::Passes(const CheckRule& rule, const RecordTable& table, long lRow)
+{
+    const bool bPasses = rule.pItem->ValidateCsv(&table, lRow, -1) == 0;
+    // Some classes record whatever they are told; a condition on errors would see it.
+    if (!bPasses)
+        KZCValidResult::instance()->ClearResult();
+    return bPasses;
+}
+
+std::vector<const CheckRule*> RecordGenerator::Refusals(long lRow) const
+{
+    std::vector<const CheckRule*> vecRefusal;
+    for (const CheckRule& rule : m_form.vecCheck)
+        if (m_form.vecItem[rule.nItem].FitsGeneration(m_strGeneration) &&
+            IsActive(rule, m_table, lRow) && !Passes(rule, m_table, lRow))
+            vecRefusal.push_back(&rule);
+    return vecRefusal;
+}
+
+bool RecordGenerator::HasGeneration(long lRow) const
+{
+    return m_table.GetRecordGeneration(lRow) == m_strGeneration;
+}
+
+std::string RecordGenerator::Complaint(long lRow) const
+{
+    std::ostringstream stream;
+    stream << "no passing " << m_strGeneration << (m_strGeneration.empty() ? "" : " ")
+           << "record found for type id " << m_form.strTypeId << ":";
+    for (const CheckRule* pRule : Refusals(lRow)) {
+        stream << "\n  " << pRule->Description() << " of item "
+               << m_form.vecItem[pRule->nItem].strId << " refuses";
+        for (const long lColumn : pRule->setReads)
+            stream << " [" << lColumn << "]=" << ToDisplay(m_table.Cell(lRow, lColumn));
+    }
+    if (!HasGeneration(lRow))
+        stream << "\n  the record is " << m_table.GetRecordGeneration(lRow);
+    return stream.str();
+}
+
+void RecordGenerator::Redraw(const Unit& unit, long lRow)
+{
+    std::optional<std::size_t> best;
+    std::vector<std::string> vecBest;
+    const auto put = [&](const std::vector<std::string>& vecCell) {
+        for (std::size_t n = 0; n < vecCell.size(); ++n)
+            m_table.PutCell(lRow, unit.vecColumn[n], vecCell[n]);
+    };
+    for (int n = 0; n < CANDIDATES; ++n) {
+        const auto vecCell = Draw(unit, lRow);
+        put(vecCell);
+        const std::size_t nRefusals = CountRefusals(unit, lRow);
+        if (!best || nRefusals < *best) {
+            best = nRefusals;
+            vecBest = vecCell;
+        }
+        if (nRefusals == 0)
+            return;
+    }
+    put(vecBest);
+}
+
+std::size_t RecordGenerator::CountRefusals(const Unit& unit, long lRow) const
+{
+    const auto nCount =
+        static_cast<std::size_t>(std::ranges::count_if(unit.vecCheck, [&](const CheckRule* pRule) {
+            return m_form.vecItem[pRule->nItem].FitsGeneration(m_strGeneration) &&
+                   IsActive(*pRule, m_table, lRow) && !Passes(*pRule, m_table, lRow);
+        }));
+    const bool bWrongGeneration =
+        Intersects(m_setGenerationColumn, unit.vecColumn) && !HasGeneration(lRow);
+    return nCount + (bWrongGeneration ? 1 : 0);
+}
+
+const RecordGenerator::Unit& RecordGenerator::RandomUnitOf(const CheckRule& rule)
+{
+    std::vector<const Unit*> vecUnit;
+    for (const Unit& unit : m_vecUnit)
+        if (Reads(rule, unit.vecColumn))
+            vecUnit.push_back(&unit);
+    if (vecUnit.empty())
+        throw std::runtime_error("type id " + m_form.strTypeId + ": nothing to draw for " +
+                                 rule.Description());
+    return *vecUnit[static_cast<std::size_t>(Random(0, static_cast<long>(vecUnit.size()) - 1))];
+}
+
+// --- groups of cells ---
+
+std::vector<std::string> RecordGenerator::Draw(const Unit& unit, long lRow)
+{
+    if (unit.eKind == UnitKind::CELL)
+        return {DrawCell(unit, lRow)};
+    if (DrawsEmpty(unit, lRow))
+        return std::vector<std::string>(unit.vecColumn.size());
+    switch (unit.eKind) {
+        case UnitKind::DATE:
+            return DrawDate(unit, lRow);
+        case UnitKind::YEAR:
+            return DrawYear(unit, lRow);
+        case UnitKind::OFFICE: {
+            const TaxOffice& office = m_vecOffice[static_cast<std::size_t>(
+                Random(0, static_cast<long>(m_vecOffice.size()) - 1))];
+            return {ToShiftJis(office.strName), office.strCode};
+        }
+        default: {
+            const year_month_day date{DrawDay({EARLIEST, LATEST})};
+            return {std::to_string(static_cast<int>(date.year())),
+                    PadNumber(static_cast<unsigned>(date.month())),
+                    PadNumber(static_cast<unsigned>(date.day()))};
+        }
+    }
+}
+
+bool RecordGenerator::DrawsEmpty(const Unit& unit, long lRow)
+{
+    for (const CheckRule* pRule : unit.vecCheck) {
+        if (!m_form.vecItem[pRule->nItem].FitsGeneration(m_strGeneration) ||
+            !Intersects(pRule->setReported, unit.vecColumn) || !IsActive(*pRule, m_table, lRow))
+            continue;
+        if (pRule->strKeyword == "exist")
+            return Chance(5);
+        if (pRule->strKeyword == "empty")
+            return Chance(95);
+    }
+    return Chance(30);
+}
+
+sys_days RecordGenerator::DrawDay(const DayRange& range)
+{
+    return range.first + days{Random(0, (range.last - range.first).count())};
+}
+
+std::vector<std::string> RecordGenerator::DrawDate(const Unit& unit, long lRow)
+{
+    const sys_days day = DrawDay(DrawRange(unit, lRow));
+    const year_month_day date{day};
+    const EraSpan& era = EraOf(day);
+    int nEra = era.nCode;
+    int nYear = static_cast<int>(date.year()) - era.nYearBase;
+    // The fourth era may be written on for a while after the fifth has begun.
+    if (nEra == 5 && day <= sys_days{year{2020} / 3 / 31} && Chance(10)) {
+        nEra = 4;
+        nYear += 30;
+    }
+    return {std::to_string(nEra), PadNumber(nYear), PadNumber(static_cast<unsigned>(date.month())),
+            PadNumber(static_cast<unsigned>(date.day()))};
+}
+
+std::vector<std::string> RecordGenerator::DrawYear(const Unit& unit, long lRow)
+{
+    const sys_days day = DrawDay(DrawRange(unit, lRow));
+    const EraSpan& era = EraOf(day);
+    return {std::to_string(era.nCode), PadNumber(YearOf(day) - era.nYearBase)};
+}
+
+/// Days from which a date or the day of a year is drawn.
+RecordGenerator::DayRange RecordGenerator::DrawRange(const Unit& unit, long lRow)
+{
+    DayRange range{Chance(60) ? RECENT : EARLIEST, LATEST};
+    bool bBound = false;
+    for (const CheckRule* pRule : unit.vecCheck) {
+        const std::string& strKeyword = pRule->strKeyword;
+        bBound = bBound || strKeyword == "age" || strKeyword == "containyear" ||
+                 strKeyword == "compdate";
+    }
+    if (bBound)
+        range.first = EARLIEST;
+    for (const CheckRule* pRule : unit.vecCheck)
+        if (m_form.vecItem[pRule->nItem].FitsGeneration(m_strGeneration) && Chance(85))
+            NarrowByCheck(range, *pRule, unit.vecColumn.front(), lRow);
+    return range;
+}
+
+void RecordGenerator::NarrowByCheck(DayRange& range, const CheckRule& rule, long lColumn, long lRow)
+{
+    const std::string& strKeyword = rule.strKeyword;
+    const auto value = LiteralDay(rule.strValue);
+    const auto min = LiteralDay(rule.strMin);
+    const auto max = LiteralDay(rule.strMax);
+    const bool bConditions = IsActive(rule, m_table, lRow);
+    if (!bConditions && Chance(50))
+        return;
+    if (strKeyword == "onward" && value) {
+        range.Narrow(*value, range.last);
+    } else if (strKeyword == "compdate") {
+        if (value)
+            range.Narrow(*value, *value);
+        else if (min)
+            range.Narrow(*min, range.last);
+        else if (max)
+            range.Narrow(range.first, *max);
+    } else if (strKeyword == "rangedate" || strKeyword == "rangedate_4") {
+        NarrowByPair(range, rule);
+    } else if (strKeyword == "containyear") {
+        const auto vecYear = SplitTokens(rule.strValue);
+        if (vecYear.empty())
+            return;
+        const year chosen{static_cast<int>(NumberOf(
+            vecYear[static_cast<std::size_t>(Random(0, static_cast<long>(vecYear.size()) - 1))]))};
+        range.Narrow(chosen / 1 / 1, chosen / 12 / 31);
+    } else if (strKeyword == "equalyear") {
+        const bool bOwn = rule.lColumn == lColumn;
+        const long lOffset = NumberOf(rule.strMax) - NumberOf(rule.strMin);
+        const auto other = YearAt(lRow, bOwn ? NumberOf(rule.strValue) : rule.lColumn);
+        if (!other)
+            return;
+        const year wanted{*other + static_cast<int>(bOwn ? lOffset : -lOffset)};
+        range.Narrow(wanted / 1 / 1, wanted / 12 / 31);
+    } else if (strKeyword == "rangedate_2" || strKeyword == "rangedate_3") {
+        const long lYearColumn =
+            NumberOf(strKeyword == "rangedate_2" ? rule.strMax : rule.strValue);
+        if (rule.lColumn == lColumn) {
+            const auto other = YearAt(lRow, lYearColumn);
+            if (!other)
+                return;
+            const bool bYear = strKeyword == "rangedate_3";
+            const sys_days first = bYear || !min ? sys_days{year{*other - 1} / 10 / 1} : *min;
+            range.Narrow(first, year{*other} / 9 / 30);
+        } else if (const auto day = DayAt(lRow, rule.lColumn)) {
+            const year last{YearOf(*day + days{92})};
+            range.Narrow(last / 1 / 1,
+                         strKeyword == "rangedate_3" ? sys_days{last / 12 / 31} : range.last);
+        }
+    } else if (strKeyword == "age") {
+        NarrowByAge(range, rule, lColumn, lRow);
+    } else if (strKeyword == "rangebasedate" || strKeyword == "rangebasedate_2") {
+        NarrowByBaseDate(range, rule, lColumn, lRow);
+    }
+}
+
+void RecordGenerator::NarrowByPair(DayRange& range, const CheckRule& rule)
+{
+    const auto vecMin = SplitTokens(rule.strMin);
+    const auto vecMax = SplitTokens(rule.strMax);
+    const long lPairs = rule.strKeyword == "rangedate_4"
+                            ? 1
+                            : static_cast<long>(std::min(vecMin.size(), vecMax.size()));
+    if (vecMin.empty() || vecMax.empty())
+        return;
+    const auto nPair = static_cast<std::size_t>(Random(0, lPairs - 1));
+    std::string strMin = vecMin[nPair];
+    std::string strMax = vecMax[nPair];
+    if (strMin.starts_with("****") && strMax.starts_with("****")) {
+        const std::string strYear = std::to_string(Random(YearOf(range.first), YearOf(range.last)));
+        strMin.replace(0, 4, strYear);
+        strMax.replace(0, 4, strYear);
+    }
+    const auto min = LiteralDay(strMin);
+    const auto max = LiteralDay(strMax);
+    if (min && max)
+        range.Narrow(*min, *max);
+}
+
+void RecordGenerator::NarrowByAge(DayRange& range, const CheckRule& rule, long lColumn, long lRow)
+{
+    constexpr long OLDEST = 95;
+    const auto vecToken = SplitTokens(rule.strValue);
+    if (vecToken.size() < 5)
+        return;
+    const int nAdded = static_cast<int>(NumberOf(vecToken[2]));
+    const long lAge =
+        Random(NumberOf(rule.strMin), rule.strMax.empty() ? OLDEST : NumberOf(rule.strMax));
+    if (NumberOf(vecToken[0]) == lColumn) {
+        const auto reference = YearAt(lRow, NumberOf(vecToken[1]));
+        const auto day = reference ? DayOf(*reference + nAdded - static_cast<int>(lAge),
+                                           NumberOf(vecToken[3]), NumberOf(vecToken[4]))
+                                   : std::nullopt;
+        if (day)
+            range.Narrow(*day - days{364}, *day);
+    } else if (NumberOf(vecToken[1]) == lColumn) {
+        if (const auto birth = DayAt(lRow, NumberOf(vecToken[0]))) {
+            const year wanted{YearOf(*birth) + static_cast<int>(lAge) - nAdded};
+            range.Narrow(wanted / 1 / 1, wanted / 12 / 31);
+        }
+    }
+}
+
+void RecordGenerator::NarrowByBaseDate(DayRange& range,
+                                       const CheckRule& rule,
+                                       long lColumn,
+                                       long lRow)
+{
+    const bool bInclude = rule.strKeyword == "rangebasedate" || rule.strValue == "include";
+    const days gap{bInclude ? 0 : 1};
+    if (rule.strKeyword == "rangebasedate" && !rule.strValue.empty()) {
+        if (ReferenceOf(rule.strValue) == std::pair(lRow + 1, lColumn)) {
+            range.Narrow(LiteralDay(rule.strMin).value_or(range.first),
+                         LiteralDay(rule.strMax).value_or(range.last));
+        }
+        return;
+    }
+    if (rule.lColumn == lColumn) {
+        if (const auto min = BaseDate(rule.strMin, lRow))
+            range.Narrow(*min + gap, range.last);
+        if (const auto max = BaseDate(rule.strMax, lRow))
+            range.Narrow(range.first, *max - gap);
+        return;
+    }
+    const auto day = DayAt(lRow, rule.lColumn);
+    if (day && NumberOf(rule.strMin) == lColumn)
+        range.Narrow(range.first, *day - gap);
+    if (day && NumberOf(rule.strMax) == lColumn)
+        range.Narrow(*day + gap, range.last);
+}
+
+std::optional<sys_days> RecordGenerator::BaseDate(const std::string& strBound, long lRow) const
+{
+    const auto [lRecord, lColumn] = ReferenceOf(strBound);
+    if (lRecord > 0)
+        return DayAt(lRecord - 1, lColumn);
+    return DayAt(lRow, NumberOf(strBound));
+}
+
+std::optional<sys_days> RecordGenerator::DayAt(long lRow, long lColumn) const
+{
+    const auto nYear = YearAt(lRow, lColumn);
+    if (!nYear)
+        return std::nullopt;
+    return DayOf(*nYear, NumberOf(m_table.Cell(lRow, lColumn + 2)),
+                 NumberOf(m_table.Cell(lRow, lColumn + 3)));
+}
+
+std::optional<int> RecordGenerator::YearAt(long lRow, long lColumn) const
+{
+    return WesternYear(NumberOf(m_table.Cell(lRow, lColumn)),
+                       NumberOf(m_table.Cell(lRow, lColumn + 1)));
+}
+
+std::string RecordGenerator::PadNumber(long lNumber)
+{
+    std::string strNumber = std::to_string(lNumber);
+    return strNumber.size() == 1 && Chance(10) ? "0" + strNumber : strNumber;
+}
+
+// --- single cells ---
+
+std::string RecordGenerator::DrawCell(const Unit& unit, long lRow)
+{
+    const long lColumn = unit.vecColumn.front();
+    if (m_strGeneration == JUNIOR && lColumn == m_lReferenceColumn)
+        return DrawNumbered("seiri");
+    if (DrawsEmpty(unit, lRow))
+        return "";
+    const CellShape shape = Shape(unit, lRow);
+    if (shape.fixed)
+        return *shape.fixed;
+    if (shape.bOffice)
+        return m_vecOffice[static_cast<std::size_t>(
+                               Random(0, static_cast<long>(m_vecOffice.size()) - 1))]
+            .strCode;
+    if (shape.bPath || !shape.strExtension.empty())
+        return DrawPath(shape);
+    if (shape.tokens && !shape.tokens->empty())
+        return (*shape.tokens)[static_cast<std::size_t>(
+            Random(0, static_cast<long>(shape.tokens->size()) - 1))];
+    if (!shape.vecNumberKind.empty())
+        return DrawNumbered(shape.vecNumberKind[static_cast<std::size_t>(
+            Random(0, static_cast<long>(shape.vecNumberKind.size()) - 1))]);
+    if (shape.range && shape.range->first <= shape.range->second)
+        return std::to_string(Random(shape.range->first, shape.range->second));
+    return DrawText(shape);
+}
+
+RecordGenerator::CellShape RecordGenerator::Shape(const Unit& unit, long lRow)
+{
+    CellShape shape;
+    const long lColumn = unit.vecColumn.front();
+    for (const CheckRule* pRule : unit.vecCheck) {
+        if (!m_form.vecItem[pRule->nItem].FitsGeneration(m_strGeneration) ||
+            !pRule->setReads.contains(lColumn))
+            continue;
+        // A condition on the cell itself isn't known before the cell is drawn.
+        const bool bActive =
+            std::ranges::all_of(pRule->vecCondition, [&](const CheckRule& condition) {
+                return condition.setReads == std::set{lColumn}
+                           ? condition.strKeyword == "exist" || Chance(50)
+                           : Holds(condition, m_table, lRow);
+            });
+        if (bActive)
+            AddToShape(shape, *pRule, lColumn, lRow);
+    }
+    return shape;
+}
+
+void RecordGenerator::AddToShape(CellShape& shape, const CheckRule& rule, long lColumn, long lRow)
+{
+    const std::string& strKeyword = rule.strKeyword;
+    const auto textClass = std::ranges::find_if(
+        TEXT_CLASSES, [&](const TextClass& other) { return other.szKeyword == strKeyword; });
+    if (textClass != TEXT_CLASSES.end()) {
+        if (shape.pClass == nullptr || &*textClass < shape.pClass)
+            shape.pClass = &*textClass;
+        shape.bLineFeeds = shape.bLineFeeds || rule.strValue == "allow_LF";
+    } else if (strKeyword == "contain") {
+        std::vector<std::string> vecToken;
+        for (const std::string& strToken : SplitTokens(rule.strValue))
+            vecToken.push_back(ToShiftJis(strToken));
+        if (shape.tokens) {
+            std::erase_if(*shape.tokens, [&](const std::string& strToken) {
+                return std::ranges::find(vecToken, strToken) == vecToken.end();
+            });
+        } else {
+            shape.tokens = vecToken;
+        }
+    } else if (strKeyword == "range" || (strKeyword == "anycontain" && Chance(70))) {
+        const long lMin = NumberOf(rule.strMin);
+        const long lMax = NumberOf(rule.strMax);
+        shape.range = shape.range ? std::pair(std::max(shape.range->first, lMin),
+                                              std::min(shape.range->second, lMax))
+                                  : std::pair(lMin, lMax);
+    } else if (strKeyword == "length") {
+        if (!rule.strValue.empty())
+            shape.bytes = NumberOf(rule.strValue);
+        else
+            shape.lMaxBytes = std::min(shape.lMaxBytes, NumberOf(rule.strMax));
+    } else if (strKeyword == "charlength") {
+        if (!rule.strValue.empty())
+            shape.characters = NumberOf(rule.strValue);
+        else
+            shape.lMaxCharacters = std::min(shape.lMaxCharacters, NumberOf(rule.strMax));
+    } else if (strKeyword == "checkdigit") {
+        shape.vecNumberKind.push_back(rule.strValue);
+    } else if (strKeyword == "digitequality") {
+        shape.vecDigitRule.push_back(&rule);
+    } else if (strKeyword == "taxoffice") {
+        shape.bOffice = true;
+    } else if (strKeyword == "existpath") {
+        shape.bPath = true;
+    } else if (strKeyword == "extension" && !SplitTokens(rule.strValue).empty()) {
+        shape.strExtension = SplitTokens(rule.strValue).front();
+    } else if (strKeyword == "containcolumn" && Chance(80)) {
+        const bool bOwn = rule.lColumn == lColumn;
+        const std::string strOther =
+            m_table.Cell(lRow, bOwn ? NumberOf(rule.strValue) : rule.lColumn);
+        const bool bNumbers = !rule.strMin.empty() || !rule.strMax.empty();
+        const long lOffset = NumberOf(rule.strMin) - NumberOf(rule.strMax);
+        if (!strOther.empty())
+            shape.fixed = bNumbers
+                              ? std::to_string(NumberOf(strOther) + (bOwn ? lOffset : -lOffset))
+                              : strOther;
+    }
+}
+
+std::string RecordGenerator::DrawText(const CellShape& shape)
+{
+    std::string strCharacters =
+        shape.pClass == nullptr ? TEXT_CLASSES[2].szCharacters : shape.pClass->szCharacters;
+    if (m_form.bQuoted && shape.pClass == &TEXT_CLASSES.back())
+        strCharacters += shape.bLineFeeds ? ",\"\n" : ",\"";
+    const auto vecCharacter = Characters(strCharacters);
+    const auto lWidest =
+        static_cast<long>(std::ranges::max(vecCharacter, {}, [](const std::string& strCharacter) {
+                              return strCharacter.size();
+                          }).size());
+    const long lMost = std::min(shape.lMaxCharacters, shape.lMaxBytes / lWidest);
+    long lCharacters = Chance(5) ? lMost : Random(1, std::max(1L, std::min(lMost, LONGEST_DRAWN)));
+    if (shape.characters)
+        lCharacters = *shape.characters;
+    if (shape.bytes)
+        lCharacters = *shape.bytes / lWidest;
+    std::string strText;
+    for (long l = 0; l < lCharacters; ++l)
+        strText += vecCharacter[static_cast<std::size_t>(
+            Random(0, static_cast<long>(vecCharacter.size()) - 1))];
+    // Digits of an amount seldom begin with 0.
+    if (shape.pClass == &TEXT_CLASSES.front() && strText.size() > 1 && strText.front() == '0' &&
+        Chance(80))
+        strText.front() = '1';
+    if (shape.pClass == &TEXT_CLASSES.front() && !shape.bytes && Chance(50))
+        strText.resize(
+            static_cast<std::size_t>(Random(1, std::max(1L, static_cast<long>(strText.size())))));
+    for (const CheckRule* pRule : shape.vecDigitRule) {
+        for (const std::string& strPosition : SplitTokens(pRule->strValue)) {
+            const auto nPosition = static_cast<std::size_t>(NumberOf(strPosition));
+            const auto vecAllowed = SplitTokens(pRule->strMax);
+            if (nPosition < 1 || nPosition > strText.size())
+                continue;
+            if (vecAllowed.empty())
+                strText[nPosition - 1] = DIGITS[Random(0, 9)];
+            else
+                strText[nPosition - 1] = vecAllowed[static_cast<std::size_t>(
+                    Random(0, static_cast<long>(vecAllowed.size()) - 1))][0];
+        }
+    }
+    return strText;
+}
+
+std::string RecordGenerator::DrawNumbered(const std::string& strKind)
+{
+    const std::size_t nDigits = strKind == "seiri" ? 13 : strKind == "hojin" ? 12 : 11;
+    std::string strDigits;
+    for (std::size_t n = 0; n < nDigits; ++n)
+        strDigits += DIGITS[Random(0, 9)];
+    if (strKind == "seiri") {
+        if (m_lReferenceColumn > 0 && m_strGeneration == JUNIOR)
+            strDigits[0] = DIGITS[Random(4, 9)];
+        const int nRest = WeightedSum(strDigits, {14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2}) % 11;
+        return strDigits + DIGITS[(11 - nRest) % 10];
+    }
+    if (strKind == "hojin") {
+        const int nSum = WeightedSum(strDigits, {2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1});
+        return DIGITS[9 - nSum % 9] + strDigits;
+    }
+    const int nRest = WeightedSum(strDigits, {6, 5, 4, 3, 2, 7, 6, 5, 4, 3, 2}) % 11;
+    const std::string strNumber = strDigits + DIGITS[nRest < 2 ? 0 : 11 - nRest];
+    return strKind == "kojin2" ? "0" + strNumber : strNumber;
+}
+
+/// The path of a file that is there and isn't empty if the cell is to name one, else a name alone.
+std::string RecordGenerator::DrawPath(const CellShape& shape)
+{
+    const std::string strName =
+        std::string(1, LETTERS[Random(0, 51)]) + std::to_string(Random(1, 99)) + shape.strExtension;
+    if (!shape.bPath)
+        return strName;
+    const std::string strPath = m_strFolder + "/" + strName;
+    std::ofstream(strPath) << "x";
+    return strPath;
+}
+
+long RecordGenerator::Random(long lFirst, long lLast)
+{
+    // The library's distributions differ between systems; this one doesn't.
+    if (lLast <= lFirst)
+        return lFirst;
+    const auto nSpan = static_cast<unsigned long>(lLast - lFirst) + 1;
+    const unsigned long nDrawn =
+        (static_cast<unsigned long>(m_random()) << 32U) | static_cast<unsigned long>(m_random());
+    return lFirst + static_cast<long>(nDrawn % nSpan);
+}
+
+}  // namespace host

@@ -1,0 +1,116 @@
+#include "lint/CheckColumns.h"
+
+#include <string_view>
+
+#include "CText.h"
+
+namespace host {
+namespace {
+
+constexpr long DATE_CELLS = 4;
+constexpr long YEAR_CELLS = 2;
+
+/// Attributes that hold columns, and how many from each.
+struct ColumnParameter
+{
+    std::string_view strKeyword;
+    const char* szAttribute;
+    long lCells;
+};
+
+constexpr ColumnParameter COLUMN_PARAMETERS[] = {
+    {"containcolumn", "value", 1},      {"exceptcolumn", "value", 1},
+    {"anyexist", "value", 1},           {"anycontain", "value", 1},
+    {"existdateYYYYMMDD", "value", 1},  {"equalyear", "value", YEAR_CELLS},
+    {"rangedate_2", "max", YEAR_CELLS}, {"rangedate_3", "value", YEAR_CELLS},
+};
+
+}  // namespace
+
+long ReadNumber(const XmlElement& element, const char* szAttribute)
+{
+    return CText::ReadLong(element.Attribute(szAttribute).c_str());
+}
+
+long CellsRead(const LintCheck& check, const std::string& strTypeId)
+{
+    // A date in another record whose error has a place of its own.
+    if (check.pKeyword->ePlace == ErrorPlace::DateOrCell &&
+        !check.pElement->Attribute("value").empty() &&
+        !check.pElement->Attribute("errcolumn").empty())
+        return 0;
+    switch (check.pKeyword->ePlace) {
+        case ErrorPlace::None:
+        case ErrorPlace::ColumnsOfValue:
+            return 0;
+        case ErrorPlace::Cell:
+        case ErrorPlace::CellOrDate:
+            return 1;
+        case ErrorPlace::Pair:
+        case ErrorPlace::PairOrColumn:
+            return YEAR_CELLS;
+        case ErrorPlace::GroupOfKind:
+            return strTypeId == "003" || strTypeId == "004" || strTypeId == "005" ? DATE_CELLS
+                                                                                  : YEAR_CELLS;
+        case ErrorPlace::Date:
+        case ErrorPlace::DateOrColumn:
+        case ErrorPlace::DateOrCell:
+        case ErrorPlace::YearOfMax:
+            return DATE_CELLS;
+    }
+    return 1;
+}
+
+bool TakesGroupColumn(const LintCheck& check)
+{
+    switch (check.pKeyword->ePlace) {
+        case ErrorPlace::None:
+        case ErrorPlace::Cell:
+        case ErrorPlace::GroupOfKind:
+        case ErrorPlace::ColumnsOfValue:
+            return false;
+        case ErrorPlace::Pair:
+        case ErrorPlace::Date:
+        case ErrorPlace::PairOrColumn:
+        case ErrorPlace::DateOrColumn:
+        case ErrorPlace::DateOrCell:
+        case ErrorPlace::CellOrDate:
+        case ErrorPlace::YearOfMax:
+            return true;
+    }
+    return false;
+}
+
+long FirstChildColumn(const LintForm& form, const LintItem& item)
+{
+    return item.vecChild.empty() ? 0 : form.vecItem[item.vecChild.front()].lColumn;
+}
+
+void AddCheckedColumns(const LintForm& form,
+                       const LintItem& item,
+                       const LintCheck& check,
+                       std::set<long>& setColumn)
+{
+    if (check.pKeyword == nullptr)
+        return;
+    long lColumn = check.lColumn;
+    if (lColumn == 0 && item.IsGroup() && TakesGroupColumn(check))
+        lColumn = FirstChildColumn(form, item);
+    if (lColumn > 0)
+        for (long lCell = 0; lCell < CellsRead(check, form.strTypeId); ++lCell)
+            setColumn.insert(lColumn + lCell);
+    for (const ColumnParameter& parameter : COLUMN_PARAMETERS)
+        if (parameter.strKeyword == check.pKeyword->strKeyword)
+            for (const long lListed :
+                 CText::SplitNumbers(check.pElement->Attribute(parameter.szAttribute)))
+                for (long lCell = 0; lCell < parameter.lCells; ++lCell)
+                    setColumn.insert(lListed + lCell);
+    if (check.pKeyword->strKeyword == "age") {
+        const auto vecToken = CText::SplitNumbers(check.pElement->Attribute("value"));
+        if (!vecToken.empty())
+            for (long lCell = 0; lCell < DATE_CELLS; ++lCell)
+                setColumn.insert(vecToken.front() + lCell);
+    }
+}
+
+}  // namespace host

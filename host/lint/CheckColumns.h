@@ -1,0 +1,28 @@
+// Which columns a check of a definition file looks at.
+#pragma once
+
+#include <set>
+#include <string>
+
+#include "lint/LintBundle.h"
+
+namespace host {
+
+long ReadNumber(const XmlElement& element, const char* szAttribute);
+
+/// Cells from the check's column on; 0 if it doesn't look at its column. The keyword is known.
+long CellsRead(const LintCheck& check, const std::string& strTypeId);
+
+/// Without a column it takes that of the group's first child.
+bool TakesGroupColumn(const LintCheck& check);
+
+/// From 1; 0 if the item has no child, or its first one no column.
+long FirstChildColumn(const LintForm& form, const LintItem& item);
+
+/// Adds the columns that the check itself looks at, its conditions left out.
+void AddCheckedColumns(const LintForm& form,
+                       const LintItem& item,
+                       const LintCheck& check,
+                       std::set<long>& setColumn);
+
+}  // namespace host

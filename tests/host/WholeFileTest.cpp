@@ -1,0 +1,71 @@
+#include "WholeFile.h"
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "support/FileSizeLimit.h"
+#include "support/TempFolder.h"
+
+namespace host {
+namespace {
+
+/// Names of all that stands in a folder.
+std::vector<std::string> NamesIn(const TempFolder& folder)
+{
+    std::vector<std::string> vecName;
+    for (const auto& entry : std::filesystem::directory_iterator(folder.Path()))
+        vecName.push_back(entry.path().filename().string());
+    return vecName;
+}
+
+TEST(WholeFileTest, NewFileHasTheBytesAndTheRightsOfANewFile)
+{
+    const TempFolder folder;
+    const mode_t before = umask(027);
+    EXPECT_EQ(WriteWhole(folder.Path("a.csv"), std::string("x\0y", 3)), "");
+    umask(before);
+    EXPECT_EQ(folder.Read("a.csv"), std::string("x\0y", 3));
+    struct stat status = {};
+    ASSERT_EQ(stat(folder.Path("a.csv").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0640U);
+    EXPECT_EQ(NamesIn(folder), std::vector<std::string>{"a.csv"});
+}
+
+TEST(WholeFileTest, ExistingFileIsReplaced)
+{
+    const TempFolder folder;
+    folder.Write("a.csv", "longer than before");
+    EXPECT_EQ(WriteWhole(folder.Path("a.csv"), "new"), "");
+    EXPECT_EQ(folder.Read("a.csv"), "new");
+}
+
+TEST(WholeFileTest, FileThatCannotBeWrittenToItsEndLeavesWhatWasThere)
+{
+    const TempFolder folder;
+    folder.Write("a.csv", "old");
+    {
+        const FileSizeLimit limit(4);
+        EXPECT_EQ(WriteWhole(folder.Path("a.csv"), "more than four"), "File too large");
+    }
+    EXPECT_EQ(folder.Read("a.csv"), "old");
+    EXPECT_EQ(NamesIn(folder), std::vector<std::string>{"a.csv"});
+}
+
+TEST(WholeFileTest, MissingFolderIsTold)
+{
+    const TempFolder folder;
+    EXPECT_EQ(WriteWhole(folder.Path("none/a.csv"), "x"), "No such file or directory");
+}
+
+TEST(WholeFileTest, FolderOfThatNameStays)
+{
+    const TempFolder folder;
+    folder.MakeFolder("a.csv");
+    EXPECT_EQ(WriteWhole(folder.Path("a.csv"), "x"), "Is a directory");
+    EXPECT_EQ(NamesIn(folder), std::vector<std::string>{"a.csv"});
+}
+
+}  // namespace
+}  // namespace host
