@@ -5,7 +5,7 @@
 
 namespace host {
 
-/// One or two sentences in English: what is wrong and what to do. Never null.
+/// One or two sentences in the current language: what is wrong and what to do. Never null.
 const char* AdviceFor(KZCEkaMessage_t eMessage);
 
 }  // namespace host

@@ -253,7 +253,7 @@ void Grid::WriteCell(std::size_t nRecord, std::size_t nColumn)
     if (it == m_mapCell.end()) {
         m_out << "<td";
         if (DisplayWidth(strValue) > WIDTHS.back())
-            m_out << " title=\"" << HtmlText(strValue) << '"';
+            m_out << " class=\"l\" title=\"" << HtmlText(strValue) << '"';
         m_out << '>' << HtmlOwnText(MakeSafeAndShort(strValue, SHOWN_CHARACTERS));
         return;
     }

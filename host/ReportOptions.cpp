@@ -5,8 +5,16 @@
 #include <map>
 #include <string>
 
+#include "Language.h"
+
 namespace host {
 namespace {
+
+constexpr Text FORMAT_HELP = {
+    "How the results are written: text (default), json, sarif (2.1.0) or html (one page)",
+    "結果の形式：text（省略時）、json、sarif（2.1.0）、html（1ページ）"};
+constexpr Text LIMIT_HELP = {"Show at most N errors of a file; counts stay true",
+                             "ファイルごとに表示するエラーの最大件数。集計は全件のままです"};
 
 constexpr int LIMIT_MAX = 1'000'000'000;
 
@@ -22,11 +30,10 @@ void AddReportOptions(CLI::App& command, ReportOptions& options)
         .add_option_function<std::string>(
             "--format",
             [&options](const std::string& strName) { options.eFormat = FORMATS.at(strName); },
-            "How the results are written: text (default), json, sarif (2.1.0) or html (one page)")
+            Say(FORMAT_HELP))
         ->type_name("FORMAT")
         ->check(CLI::IsMember(&FORMATS).description(""));
-    command
-        .add_option("--limit", options.limit, "Show at most N errors of a file; counts stay true")
+    command.add_option("--limit", options.limit, Say(LIMIT_HELP))
         ->type_name("N")
         ->check(CLI::Range(0, LIMIT_MAX).description(""));
 }

@@ -103,12 +103,6 @@ class FileView {
       const place = event.target.dataset?.at;
       this.now.textContent = place ? `${place}\n${event.target.title}` : "";
     });
-    // A value that is cut is told in whole.
-    this.grid.addEventListener("mouseover", (event) => {
-      const cell = event.target.closest("td, th");
-      if (cell && !cell.title && !cell.matches(".e") && cell.scrollWidth > cell.clientWidth)
-        cell.title = cell.textContent;
-    });
   }
 
   errors() {

@@ -91,7 +91,8 @@ void LintLoad(const LintBundle& bundle, LintReport& report)
 {
     const BundleInUse inUse(bundle.strPath);
     for (const auto& pFile : bundle.vecFile) {
-        if (pFile->vecForm.empty())
+        // What stands before the root is the whole reason of a failure, and has been told.
+        if (pFile->vecForm.empty() || pFile->xml.lPrologLine > 0)
             continue;
         if (pFile->eFamily == Family::Base)
             LoadBase(*pFile, report);

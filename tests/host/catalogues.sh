@@ -48,6 +48,18 @@ run rules --format markdown
 expect_status 0 "the check items for people"
 expect_in out "charlength" "the check items for people"
 
+golden=$(dirname "$0")/../golden/host
+for language in en ja; do
+    run explain --lang $language
+    cmp "$golden/explain.$language.txt" out || fail "all codes in $language"
+    run layout 103 --lang $language
+    cmp "$golden/layout-103.$language.md" out || fail "a layout in Markdown in $language"
+    for format in html csv; do
+        run layout 103 --lang $language --format $format
+        cmp "$golden/layout-103.$language.$format" out || fail "a layout in $format in $language"
+    done
+done
+
 mkdir empty
 KZEKAMOK_BUNDLE=$work/none run rules
 expect_status 3 "no resource folder"

@@ -19,8 +19,7 @@ void PrintTo(const CheckCase& testCase, std::ostream* pOut)
 }
 
 class LintCheckTest : public testing::TestWithParam<CheckCase>
-{
-};
+{};
 
 TEST_P(LintCheckTest, FindsWhatIsWrongAndNothingElse)
 {
@@ -59,14 +58,17 @@ const CheckCase KEYWORDS[] = {
     {"ExtensionIsForArguments", R"(<valid id="extension" value=".csv"/>)", MISPLACED},
     {"Exist2IsForOtherForms", R"(<valid id="exist_2"/>)", MISPLACED},
     {"OfficeNameAsCheck", R"(<valid id="taxofficenm" column="9"/>)", NONE},
-    {"OfficeNameAsCondition",
-     R"(<valid id="number"><outer id="taxofficenm" column="9"/></valid>)", MISPLACED},
+    {"OfficeNameAsCondition", R"(<valid id="number"><outer id="taxofficenm" column="9"/></valid>)",
+     MISPLACED},
     {"ConditionWithColumn", R"(<valid id="number"><outer id="exist" column="7"/></valid>)", NONE},
-    {"ConditionWithoutColumn", R"(<valid id="number"><outer id="exist"/></valid>)",
+    {"ConditionWithoutColumn",
+     R"(<valid id="number"><outer id="exist"/></valid>)",
      {"outer-dropped"}},
-    {"ConditionWithColumnZero", R"(<valid id="number"><outer id="exist" column="0"/></valid>)",
+    {"ConditionWithColumnZero",
+     R"(<valid id="number"><outer id="exist" column="0"/></valid>)",
      {"outer-dropped"}},
-    {"UnknownCondition", R"(<valid id="number"><outer id="exists" column="7"/></valid>)",
+    {"UnknownCondition",
+     R"(<valid id="number"><outer id="exists" column="7"/></valid>)",
      {"unknown-keyword"}},
     {"MessageOfCondition",
      R"(<valid id="number"><outer id="exist" column="7" message="HE70001E"/></valid>)", UNREAD},
@@ -91,12 +93,15 @@ const CheckCase PLACES[] = {
     {"LastOfficeName", R"(<valid id="taxofficenm" column="9"/>)", NONE},
     {"OfficeNameBeyond", R"(<valid id="taxofficenm" column="10"/>)", BEYOND},
     {"LastErrColumn", R"(<valid id="containyear" value="2020" errcolumn="7"/>)", NONE},
-    {"ErrColumnBeyond", R"(<valid id="containyear" value="2020" errcolumn="8"/>)",
+    {"ErrColumnBeyond",
+     R"(<valid id="containyear" value="2020" errcolumn="8"/>)",
      {"error-place-beyond"}},
-    {"ErrColumnZero", R"(<valid id="containyear" value="2020" errcolumn="0"/>)",
+    {"ErrColumnZero",
+     R"(<valid id="containyear" value="2020" errcolumn="0"/>)",
      {"error-place-beyond"}},
     {"LastErrRow", R"(<valid id="rangebasedate" min="3" errrow="5000"/>)", NONE},
-    {"ErrRowBeyond", R"(<valid id="rangebasedate" min="3" errrow="5001"/>)",
+    {"ErrRowBeyond",
+     R"(<valid id="rangebasedate" min="3" errrow="5001"/>)",
      {"error-place-beyond"}},
     {"ColumnIsNoNumber", R"(<valid id="number" column="x"/>)", {"bad-number"}},
 };
@@ -130,9 +135,11 @@ const CheckCase VALUES[] = {
     {"KindOfNumber", R"(<valid id="checkdigit" value="kojin2"/>)", NONE},
     {"KindOfNumberUnknown", R"(<valid id="checkdigit" value="mynumber"/>)", BAD},
     {"KindOfNumberMissing", R"(<valid id="checkdigit"/>)", BAD},
-    {"KindOfPathUnknown", R"(<valid id="existpath" value="pipe"/>)",
+    {"KindOfPathUnknown",
+     R"(<valid id="existpath" value="pipe"/>)",
      {"bad-parameter", "keyword-misplaced"}},
-    {"ExtensionWithoutDot", R"(<valid id="extension" value="csv"/>)",
+    {"ExtensionWithoutDot",
+     R"(<valid id="extension" value="csv"/>)",
      {"keyword-misplaced", "bad-parameter"}},
     {"Positions", R"(<valid id="digitequality" value="1 2" max="0 1"/>)", NONE},
     {"PositionsMissing", R"(<valid id="digitequality" max="0"/>)", BAD},
@@ -200,8 +207,8 @@ const CheckCase DATES[] = {
     {"Period", R"(<valid id="rangedate_4" min="20130401" max="20130430"/>)", NONE},
     {"PeriodMissing", R"(<valid id="rangedate_4"/>)", TWO_BAD},
     {"PeriodOfOwnYear", R"(<valid id="rangedate_4" min="****0401" max="****0430"/>)", TWO_BAD},
-    {"SecondPeriod",
-     R"(<valid id="rangedate_4" min="20130401 20140401" max="20130430 20140430"/>)", BAD},
+    {"SecondPeriod", R"(<valid id="rangedate_4" min="20130401 20140401" max="20130430 20140430"/>)",
+     BAD},
     {"PeriodBackwards", R"(<valid id="rangedate_4" min="20130501" max="20130430"/>)", BAD},
     {"Compared", R"(<valid id="compdate" min="20130401"/>)", NONE},
     {"ComparedWithNothing", R"(<valid id="compdate"/>)", BAD},
@@ -216,10 +223,9 @@ const CheckCase DATES[] = {
     {"EqualYearColumnBeyond", R"(<valid id="equalyear" value="10"/>)", BAD},
     {"EqualYearOffsetNoNumber", R"(<valid id="equalyear" value="3" max="one"/>)", BAD},
 };
-INSTANTIATE_TEST_SUITE_P(Dates,
-                         LintCheckTest,
-                         testing::ValuesIn(DATES),
-                         [](const auto& testCase) { return testCase.param.szName; });
+INSTANTIATE_TEST_SUITE_P(Dates, LintCheckTest, testing::ValuesIn(DATES), [](const auto& testCase) {
+    return testCase.param.szName;
+});
 
 const CheckCase PLACED_DATES[] = {
     {"BetweenColumns", R"(<valid id="rangebasedate" min="3" max="7"/>)", NONE},
