@@ -5,6 +5,7 @@
 #   development        headers, CMake package, pkg-config file, the link for the linker
 #   host               the command-line program
 #   manual, documents  its manual page; readme, changes and licence
+#   completion         what bash and zsh need to complete its command line
 #   objc, objc_development   as the first two, for the Objective-C classes, so that a package of the
 #                      rest needs no Objective-C run-time
 include(CMakePackageConfigHelpers)
@@ -32,6 +33,27 @@ if(TARGET kzekamok)
     install(TARGETS kzekamok RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT host)
     install(FILES "${PROJECT_SOURCE_DIR}/host/kzekamok.1"
         DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT manual)
+
+    # The program writes the scripts, so they are there only if it runs where it is built.
+    if(NOT CMAKE_CROSSCOMPILING OR CMAKE_CROSSCOMPILING_EMULATOR)
+        set(strCompletionDir "${PROJECT_BINARY_DIR}/package/completion")
+        foreach(strShell bash zsh)
+            set(strCompletion "${strCompletionDir}/kzekamok.${strShell}")
+            add_custom_command(OUTPUT "${strCompletion}"
+                COMMAND sh -c "mkdir -p \"$1\" && shift && \"$@\" >\"$0\"" "${strCompletion}"
+                    "${strCompletionDir}" ${CMAKE_CROSSCOMPILING_EMULATOR}
+                    $<TARGET_FILE:kzekamok> completion ${strShell} --lang en
+                DEPENDS kzekamok
+                VERBATIM)
+        endforeach()
+        add_custom_target(kzekamok_completion ALL
+            DEPENDS "${strCompletionDir}/kzekamok.bash" "${strCompletionDir}/kzekamok.zsh")
+        install(FILES "${strCompletionDir}/kzekamok.bash" RENAME kzekamok
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+            COMPONENT completion)
+        install(FILES "${strCompletionDir}/kzekamok.zsh" RENAME _kzekamok
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" COMPONENT completion)
+    endif()
 endif()
 
 install(EXPORT KZEkaMokTargets NAMESPACE KZEkaMok::

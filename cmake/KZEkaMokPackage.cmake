@@ -99,6 +99,15 @@ record, column, label and value."
     list(APPEND listCompressed "${strDebianDir}/kzekamok.1.gz")
     install(FILES "${strDebianDir}/kzekamok.1.gz"
         DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT host EXCLUDE_FROM_ALL)
+    if(TARGET kzekamok_completion)
+        install(FILES "${strCompletionDir}/kzekamok.bash" RENAME kzekamok
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions"
+            COMPONENT host EXCLUDE_FROM_ALL)
+        # Debian's zsh looks for what packages bring here, and not in site-functions.
+        install(FILES "${strCompletionDir}/kzekamok.zsh" RENAME _kzekamok
+            DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions"
+            COMPONENT host EXCLUDE_FROM_ALL)
+    endif()
 endif()
 
 if(TARGET KZEkaMokObjC)

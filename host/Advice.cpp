@@ -43,7 +43,7 @@ constexpr AdviceRow ADVICE[EKA_MSG_COUNT] = {
       "決められた値のどれでもありません。決められた値にしてください。"}},
     {HE70010E,
      {"The value is not a valid one; its check digit, for example, may be wrong. Correct it.",
-      "正しい値ではありません。チェックデジットの誤りなどを確認して直してください。"}},
+      "正しい値ではありません。検査用数字の誤りなどを確認して直してください。"}},
     {HE70011E,
      {"No tax office has this number. Write the office's 5-digit number.",
       "この番号の税務署はありません。税務署の5桁の番号を書いてください。"}},
@@ -82,7 +82,8 @@ constexpr AdviceRow ADVICE[EKA_MSG_COUNT] = {
       "、定義にある1つの申請区分にそろえてください。"}},
     {HE70022E,
      {"There are more errors than the library lists. Correct these and check the file again.",
-      "ライブラリが示せる件数を超えるエラーがあります。示されたものを直してから、もう一度検査してく"
+      "ライブラリが示せる件数を超えるエラーがあります。示されたものを直してから、もう一度チェックし"
+      "てく"
       "ださい。"}},
     {HE70023E,
      {"The document would be larger than 10 MB. Split the file into smaller ones.",
@@ -118,8 +119,8 @@ constexpr AdviceRow ADVICE[EKA_MSG_COUNT] = {
      {"The form needs a second record. Add it.",
       "この帳票には2件目のレコードが必要です。追加してください。"}},
     {HE70034E,
-     {"Only full-width katakana, letters and digits may stand here. Replace every other character.",
-      "全角のカタカナ、英字、数字だけが使えます。ほかの文字を直してください。"}},
+     {"There is a character that is no full-width katakana, letter or digit. Replace it.",
+      "全角カタカナ・英数字ではない文字があります。直してください。"}},
     {HE70035E,
      {"Only half-width letters and digits may stand here. Replace every other character.",
       "半角の英字と数字だけが使えます。ほかの文字を直してください。"}},

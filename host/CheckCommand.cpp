@@ -13,7 +13,7 @@ namespace host {
 namespace {
 
 constexpr Text SUMMARY = {"Checks CSV files and tells their errors",
-                          "CSVファイルを検査してエラーを示します"};
+                          "CSVファイルをチェックしてエラーを示します"};
 constexpr Text FILE_HELP = {"CSV files (.csv, .CSV, .txt, .TXT)",
                             "CSVファイル（.csv、.CSV、.txt、.TXT）"};
 constexpr Text EXAMPLES = {R"(Examples:

@@ -16,14 +16,14 @@
 namespace host {
 namespace {
 
-constexpr Text PATH_PROBLEM = {"The file was not checked: {1}.", "検査しませんでした：{1}。"};
+constexpr Text PATH_PROBLEM = {"The file was not checked: {1}.", "チェックしませんでした：{1}。"};
 constexpr Text RENAME = {"Rename it.", "ファイル名を変えてください。"};
 constexpr Text NOT_STARTED = {"The library could not even start the check.",
-                              "ライブラリが検査を始められませんでした。"};
+                              "ライブラリがチェックを始められませんでした。"};
 constexpr Text FREE_MEMORY = {"Make sure that enough memory is free.",
                               "メモリーの空きを確認してください。"};
 constexpr Text NUL_PROBLEM = {"The file was not checked to its end: {1}.",
-                              "最後まで検査できませんでした：{1}。"};
+                              "最後までチェックできませんでした：{1}。"};
 constexpr Text REMOVE_NUL = {"Remove the NUL bytes.", "NULを取り除いてください。"};
 constexpr Text INCOMPLETE = {"The installation is not complete.",
                              "インストールが完全ではありません。"};
@@ -35,7 +35,7 @@ constexpr Text BROKEN = {
     "file's form may be faulty.",
     "ライブラリの処理が中断しました。ここからは理由がわかりません。"
     "帳票の定義ファイルが誤っているかもしれません。"};
-constexpr Text NOT_CHECKED = {"The file was not checked.", "検査しませんでした。"};
+constexpr Text NOT_CHECKED = {"The file was not checked.", "チェックしませんでした。"};
 constexpr Text NO_REGULAR_FILE = {
     "It is no regular file: copy what it gives into one.",
     "通常のファイルではありません。内容を通常のファイルにコピーしてください。"};

@@ -13,7 +13,9 @@
 #include <vector>
 
 #include "Commands.h"
+#include "HelpFormatter.h"
 #include "Language.h"
+#include "ParserComplaint.h"
 #include "UsageError.h"
 
 namespace host {
@@ -21,10 +23,11 @@ namespace {
 
 constexpr const char* LANGUAGE_OPTION = "--lang";
 
-constexpr const char* DESCRIPTION =
-    "Checks tax filing CSV files (Shift_JIS) and turns them into MOK documents.";
+constexpr Text DESCRIPTION = {
+    "Checks tax filing CSV files (Shift_JIS) and turns them into MOK documents.",
+    "税務申告用のCSVファイル（Shift_JIS）をチェックし、MOK文書に変換します。"};
 
-constexpr const char* EXAMPLES = R"(Examples:
+constexpr Text EXAMPLES = {R"(Examples:
   kzekamok check accounts.csv
       Shows each wrong cell with its record, column, label, value, code and message.
   kzekamok check --format json *.csv > report.json
@@ -45,7 +48,35 @@ Exit status (with several files the highest):
 Environment:
   KZEKAMOK_BUNDLE  the resource folder, in place of the installed one
   LANG             Japanese if it begins with "ja", else English; --lang wins
-  NO_COLOR         no colour, if set and not empty)";
+  NO_COLOR         no colour, if set and not empty)",
+                           R"(例：
+  kzekamok check accounts.csv
+      エラーのある値を、レコード、項目、項目名、値、コード、説明とともに示します。
+  kzekamok check --format json *.csv > report.json
+      複数のファイルの結果を1つのJSONにまとめます。
+  kzekamok convert accounts.csv --profile filer.toml -o accounts.mok
+      ファイルをチェックし、合格すれば文書を書き出します。
+  kzekamok convert accounts.csv --profile filer.toml --zeimusho-cd 01234 -o accounts.mok
+      オプションはプロファイルより優先されます。
+
+終了ステータス（複数のファイルでは最も大きいもの）：
+  0  合格した、または変換した
+  1  エラーのあるファイルがあった
+  2  コマンドライン、プロファイル、納税者の項目のどれかが誤っている
+  3  最後までチェックできないファイルがあった（ファイルがない、読み取れない、Shift_JISではない）、
+     またはインストールに問題がある
+  4  文書または標準出力に書き込めなかった
+
+環境変数：
+  KZEKAMOK_BUNDLE  インストールされたものの代わりに使うリソースフォルダー
+  LANG             "ja" で始まれば日本語、それ以外は英語。--lang が優先されます
+  NO_COLOR         空でなければ色を付けません)"};
+constexpr Text SEE_HELP = {"kzekamok: {1}\nRun `kzekamok --help` to see how it is used.\n",
+                           "kzekamok：{1}\n使い方は `kzekamok --help` で見られます。\n"};
+constexpr Text VERSION_HELP = {"Print the version and exit", "バージョンを表示して終わります"};
+constexpr Text HELP_HELP = {"Print this help and exit", "この説明を表示して終わります"};
+constexpr Text LANGUAGE_HELP = {"Language of all texts: en or ja",
+                                "表示する言語：en（英語）または ja（日本語）"};
 
 std::string Version()
 {
@@ -98,7 +129,7 @@ Language WantedLanguage(const std::vector<std::string>& vecArgument)
 
 std::string Complaint(const std::string& strWhat)
 {
-    return "kzekamok: " + strWhat + "\nRun `kzekamok --help` to see how it is used.\n";
+    return Say(SEE_HELP, {strWhat});
 }
 
 struct Subcommand
@@ -115,18 +146,18 @@ ExitStatus RunCommandLine(int nCount, const char* const* pArguments)
     SetLanguage(WantedLanguage(vecArgument));
     std::ranges::reverse(vecArgument);  // as the parser wants them
 
-    CLI::App app(DESCRIPTION, "kzekamok");
-    app.set_version_flag("--version", Version, "Print the version and exit");
-    app.set_help_flag("-h,--help", "Print this help and exit");
-    app.footer(EXAMPLES);
+    CLI::App app(Say(DESCRIPTION), "kzekamok");
+    app.formatter(MakeHelpFormatter());
+    app.option_defaults()->group(OptionsTitle());
+    app.set_version_flag("--version", Version, Say(VERSION_HELP));
+    app.set_help_flag("-h,--help", Say(HELP_HELP));
+    app.footer(Say(EXAMPLES));
     app.require_subcommand(1);
-    app.failure_message(
-        [](const CLI::App*, const CLI::Error& error) { return Complaint(error.what()); });
     std::string strLanguage;  // read by WantedLanguage
     const auto addLanguage = [&strLanguage](CLI::App& to) {
-        to.add_option(LANGUAGE_OPTION, strLanguage, "Language of all texts: en or ja")
+        to.add_option(LANGUAGE_OPTION, strLanguage, Say(LANGUAGE_HELP))
             ->type_name("LANG")
-            ->check(CLI::IsMember({"en", "ja"}));
+            ->check(CLI::IsMember({"en", "ja"}).description(""));
     };
     addLanguage(app);
 
@@ -134,6 +165,8 @@ ExitStatus RunCommandLine(int nCount, const char* const* pArguments)
     for (auto& pCommand : MakeCommands()) {
         CLI::App* pParsed = pCommand->AddTo(app);
         addLanguage(*pParsed);
+        pParsed->group(SubcommandsTitle());
+        pParsed->get_help_ptr()->group(OptionsTitle());
         vecSubcommand.push_back({std::move(pCommand), pParsed});
     }
 
@@ -144,7 +177,12 @@ ExitStatus RunCommandLine(int nCount, const char* const* pArguments)
         given->pCommand->Finish();
         return given->pCommand->Run();
     } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? ExitStatus::Passed : ExitStatus::Usage;
+        if (error.get_exit_code() == 0) {
+            app.exit(error);  // writes the help or the version
+            return ExitStatus::Passed;
+        }
+        std::cerr << Complaint(ComplaintOf(app, error));
+        return ExitStatus::Usage;
     } catch (const UsageError& error) {
         std::cerr << Complaint(error.what());
         return ExitStatus::Usage;

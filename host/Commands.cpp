@@ -2,6 +2,7 @@
 
 #include "BatchCommand.h"
 #include "CheckCommand.h"
+#include "CompletionCommand.h"
 #include "ConvertCommand.h"
 #include "ExplainCommand.h"
 #include "LayoutCommand.h"
@@ -30,6 +31,7 @@ constexpr std::unique_ptr<Command> (*COMMANDS[])() = {
     Make<NewCommand>,
     Make<SplitCommand>,
     Make<LintCommand>,
+    Make<CompletionCommand>,
 };
 
 }  // namespace

@@ -15,7 +15,7 @@ namespace host {
 namespace {
 
 constexpr Text SUMMARY = {"Checks a CSV file and writes its MOK document",
-                          "CSVファイルを検査し、MOK文書を書き出します"};
+                          "CSVファイルをチェックし、MOK文書を書き出します"};
 constexpr Text FILE_HELP = {"CSV file (.csv, .CSV, .txt, .TXT)",
                             "CSVファイル（.csv、.CSV、.txt、.TXT）"};
 constexpr Text OUTPUT_HELP = {

@@ -28,7 +28,7 @@ constexpr Text DRY_RUN = {"Dry run: the document was made, but no file was writt
                           "試行（--dry-run）です。文書は作成できましたが、書き込んでいません。"};
 constexpr Text DISK_FULL = {"the disk may be full", "ディスクがいっぱいかもしれません"};
 constexpr Text NOT_READ_AGAIN = {"The file passed the check, but could not be read a second time.",
-                                 "検査には合格しましたが、再度の読み取りに失敗しました。"};
+                                 "チェックには合格しましたが、再度の読み取りに失敗しました。"};
 constexpr Text LEAVE_IN_PLACE = {"Leave it in place while it is converted.",
                                  "変換が終わるまでファイルを動かさないでください。"};
 constexpr Text NO_FOLDER = {"The document could not be written to {1}.",
@@ -38,21 +38,21 @@ constexpr Text NAME_A_FOLDER = {"Name an output in a folder that exists.",
 constexpr Text NO_SUCH_FOLDER = {"The folder of the output does not exist.",
                                  "出力先のフォルダーがありません。"};
 constexpr Text WRONG_FIELDS = {"The file passed the check, but fields of the filer are not valid.",
-                               "検査には合格しましたが、納税者の項目に誤りがあります。"};
+                               "チェックには合格しましたが、納税者の項目に誤りがあります。"};
 constexpr Text CORRECT_FIELDS = {
     "Correct the options named above, or the keys of the same name in the profile.",
     "上に挙げたオプション、またはプロファイルの同じ名前のキーを直してください。"};
 constexpr Text FOREIGN_FIELD = {
     "The file passed the check, but {1} is no field of its family ({2}).",
-    "検査には合格しましたが、{1} はこのファイルの系列（{2}）にない項目です。"};
+    "チェックには合格しましたが、{1} はこのファイルの系列（{2}）にない項目です。"};
 constexpr Text LEAVE_OUT_FIELD = {
     "Leave the option out. A profile may hold the field: it is passed over where it isn't needed.",
     "このオプションを外してください。"
     "プロファイルにあるだけなら、不要な系列では無視されます。"};
 constexpr Text TOO_LARGE = {"The file passed the check, but its document would be too large.",
-                            "検査には合格しましたが、文書が大きくなりすぎます。"};
+                            "チェックには合格しましたが、文書が大きくなりすぎます。"};
 constexpr Text UNMADE = {"The file passed the check, but no document could be made from it.",
-                         "検査には合格しましたが、文書を作成できませんでした。"};
+                         "チェックには合格しましたが、文書を作成できませんでした。"};
 constexpr Text FAULTY_DEFINITION = {"The definition of its form may be faulty.",
                                     "帳票の定義ファイルが誤っているかもしれません。"};
 constexpr Text HARMFUL_CELL = {

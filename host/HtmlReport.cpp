@@ -416,8 +416,8 @@ void WriteHtml(std::ostream& out,
                const ReportStyle& style)
 {
     const bool bConvert = std::string_view(szCommand) == "convert";
-    const std::string strHeading =
-        Say(bConvert ? Text{"Conversion report", "変換結果"} : Text{"Check report", "検査結果"});
+    const std::string strHeading = Say(bConvert ? Text{"Conversion report", "変換結果"}
+                                                : Text{"Check report", "チェック結果"});
     const bool bOne = vecReport.size() == 1;
     WriteHead(out, bOne ? MakeSafe(vecReport.front().strFile) + " – " +
                               OutcomeWord(vecReport.front().eOutcome)

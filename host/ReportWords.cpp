@@ -32,7 +32,7 @@ const char* OutcomeWord(Outcome eOutcome)
         case Outcome::Refused:
             return Say({"REFUSED", "不合格"});
         case Outcome::NotChecked:
-            return Say({"NOT CHECKED", "検査できず"});
+            return Say({"NOT CHECKED", "チェックできず"});
         case Outcome::Converted:
             return Say({"converted", "変換済み"});
         case Outcome::Convertible:
@@ -42,7 +42,7 @@ const char* OutcomeWord(Outcome eOutcome)
         case Outcome::NotWritten:
             return Say({"NOT WRITTEN", "書き込めず"});
     }
-    return Say({"NOT CHECKED", "検査できず"});
+    return Say({"NOT CHECKED", "チェックできず"});
 }
 
 std::string ColumnWords(long lColumn, long lColumnEnd)

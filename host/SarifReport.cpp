@@ -110,6 +110,7 @@ Json ArtifactOf(const FileReport& report, const ReportStyle& style)
         {"properties",
          {{"result", OutcomeName(report.eOutcome)},
           {"status", static_cast<int>(report.eStatus)},
+          {"family", FamilyName(report.eFamily)},
           {"procedure", report.strProcedure},
           {"records", report.records ? Json(*report.records) : Json()},
           {"errors", report.vecError.size()},

@@ -11,6 +11,7 @@ namespace {
 
 constexpr std::size_t SHOWN_CHARACTERS = 40;
 
+constexpr Text QUOTED = {"\"{1}\"", "「{1}」"};
 constexpr Text RECORD = {"Record {1}", "レコード{1}"};
 constexpr Text RECORD_AND_LINE = {"Record {1} (line {2})", "レコード{1}（{2}行目）"};
 constexpr Text COLUMNS = {"{1} has {2} columns, a record of type {3} has {4}.",
@@ -36,7 +37,7 @@ constexpr Text TOO_FEW = {
 
 std::string Quoted(const std::string& strText)
 {
-    return "\"" + MakeSafeAndShort(strText, SHOWN_CHARACTERS) + "\"";
+    return Say(QUOTED, {MakeSafeAndShort(strText, SHOWN_CHARACTERS)});
 }
 
 /// "Record 3", with its line where that has another number.

@@ -153,11 +153,12 @@ void WriteText(std::ostream& out, const FileReport& report, const ReportStyle& s
         out << Say(toDo, {report.strAdvice}) << '\n';
     else if (report.eOutcome == Outcome::Refused)
         out << Say(toDo, {Say({"correct the file as told above and check it again.",
-                               "上のエラーを直して、もう一度検査してください。"})})
+                               "上のエラーを直して、もう一度チェックしてください。"})})
             << '\n';
     if (report.document)
-        out << Say({"  document: {1}, {2}", "  文書：{1}、{2}"},
-                   {MakeSafe(report.document->strPath), Count(report.document->nBytes, BYTES)})
+        out << Say({"  document: {1}, {2}, {3} family", "  文書：{1}、{2}、{3}系列"},
+                   {MakeSafe(report.document->strPath), Count(report.document->nBytes, BYTES),
+                    FamilyName(report.eFamily)})
             << '\n';
 }
 
@@ -168,7 +169,7 @@ void WriteTextTotals(std::ostream& out, const std::vector<FileReport>& vecReport
             std::ranges::count(vecReport, eOutcome, &FileReport::eOutcome)));
     };
     out << Say({"{1}: {2} passed, {3} refused, {4} not checked to the end",
-                "{1}：合格{2}、不合格{3}、最後まで検査できず{4}"},
+                "{1}：合格{2}、不合格{3}、最後までチェックできず{4}"},
                {Count(vecReport.size(), FILES), count(Outcome::Passed), count(Outcome::Refused),
                 count(Outcome::NotChecked)})
         << '\n';

@@ -24,6 +24,7 @@ namespace {
 
 constexpr std::size_t MAX_DEPTH = 100;  ///< a definition file has five levels
 constexpr XMLSize_t MAX_ENTITY_EXPANSIONS = 100;
+constexpr const char* NO_DOCTYPE = "a document type declaration stands in it";
 
 /// The file is well-formed, but not to be read.
 struct Unreadable
@@ -73,7 +74,7 @@ public:
                   const XMLCh* const /*publicId*/,
                   const XMLCh* const /*systemId*/) override
     {
-        throw Unreadable{"a document type declaration stands in it", true};
+        throw Unreadable{NO_DOCTYPE, true};
     }
 
     void comment(const XMLCh* const /*chars*/, const XMLSize_t /*length*/) override
@@ -108,8 +109,34 @@ private:
     std::optional<XmlElement> m_root;
 };
 
+/// Offset of a document type declaration before the root, or npos. The parser doesn't tell of one
+/// without a grammar.
+std::size_t FindDoctype(std::string_view strBytes)
+{
+    constexpr std::string_view DOCTYPE = "<!DOCTYPE";
+    std::size_t nAt = strBytes.find('<');
+    while (nAt != std::string_view::npos) {
+        const std::string_view strRest = strBytes.substr(nAt);
+        if (strRest.starts_with(DOCTYPE))
+            return nAt;
+        const bool bComment = strRest.starts_with("<!--");
+        if (!bComment && !strRest.starts_with("<?"))
+            break;
+        const std::size_t nEnd = strBytes.find(bComment ? "-->" : "?>", nAt);
+        nAt = strBytes.find('<', nEnd);
+    }
+    return std::string_view::npos;
+}
+
 void Parse(const std::string& strBytes, XmlFile& file)
 {
+    if (const std::size_t nAt = FindDoctype(strBytes); nAt != std::string_view::npos) {
+        const auto lLine =
+            1 +
+            std::count(strBytes.begin(), strBytes.begin() + static_cast<std::ptrdiff_t>(nAt), '\n');
+        file.problem = {NO_DOCTYPE, static_cast<long>(lLine), true};
+        return;
+    }
     TreeBuilder builder;
     const std::unique_ptr<xercesc::SAX2XMLReader> pReader(
         xercesc::XMLReaderFactory::createXMLReader());

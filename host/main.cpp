@@ -18,7 +18,7 @@ constexpr Text NOT_WRITTEN = {
     "kzekamok：標準出力に書き込めませんでした{1}。上の結果は完全ではありません。\n"};
 constexpr Text FAULT = {
     "kzekamok: unexpected fault: {1}. No file counts as checked.\n",
-    "kzekamok：予期しない障害：{1}。どのファイルも検査済みとはみなせません。\n"};
+    "kzekamok：予期しない障害：{1}。どのファイルもチェック済みとはみなせません。\n"};
 
 /// Results that nobody got are no results.
 ExitStatus FinishOutput(ExitStatus eStatus)

@@ -12,6 +12,8 @@
 #include <vector>
 
 #include "KZCEkaMOKManager.h"
+#include "KZCEkaMOKManagerCrossBorder.h"
+#include "KZCEkaMOKManagerFinance.h"
 #include "support/FamilyHost.h"
 #include "support/LogEntries.h"
 
@@ -586,6 +588,58 @@ TEST_P(PathTest, RepeatedErrorStandsOnceInAllFamiliesButTheBase)
               Refused(m_eFamily == Family::Base ? "0001-00002-HE70004E,0001-00002-HE70004E,"
                                                   "0002-00002-HE70004E,0002-00002-HE70004E"
                                                 : "0001-00002-HE70004E,0002-00002-HE70004E"));
+}
+
+/// A family whose conversions end with what their filer's fields record.
+template <class FamilyManager, const FamilyTraits& FAMILY>
+struct RefusingFamily
+{
+    using Manager = FamilyManager;
+
+    static constexpr const FamilyTraits& TRAITS = FAMILY;
+
+    static int LoadForConversion(Manager& /*manager*/, bool /*bPlain*/) { return STATUS_NG; }
+};
+
+/// The detail table of a conversion of which a field records one error twice.
+template <class Family>
+std::string DetailOfRepeatedField(Path ePath, const std::string& strCsv, const std::string& strMok)
+{
+    KZCConvertResultEka record;
+    const auto setFiler = [](auto& /*manager*/, const ConversionArguments& /*arguments*/) {
+        for (int n = 0; n < 2; ++n)
+            KZCValidResult::instance()->SetResult(HE70004E, ARGUMENT_RECORD, 3, SINGLE_COLUMN);
+    };
+    if (ePath == Path::Plain)
+        RequestSteps::ConvertPlain<Family>({}, record, strCsv.c_str(), strMok.c_str(), setFiler);
+    else
+        RequestSteps::ConvertKept<Family>({}, record, 2, setFiler);
+    return record.GetDetailErrorInfo();
+}
+
+TEST_P(PathTest, RepeatedErrorOfAConversionStandsOnceInAllFamiliesButTheBase)
+{
+    const std::string strCsv = GoodCsv(m_eFamily);
+    EXPECT_EQ(ElCheck(m_eFamily, strCsv, 2).strResult, "S_OK");
+    std::string strDetail;
+    switch (m_eFamily) {
+        case Family::Base:
+            strDetail = DetailOfRepeatedField<RefusingFamily<KZCEkaMOKManager, BASE_FAMILY>>(
+                m_ePath, strCsv, m_strMok);
+            break;
+        case Family::Finance:
+            strDetail =
+                DetailOfRepeatedField<RefusingFamily<KZCEkaMOKManagerFinance, FINANCE_FAMILY>>(
+                    m_ePath, strCsv, m_strMok);
+            break;
+        case Family::CrossBorder:
+            strDetail = DetailOfRepeatedField<
+                RefusingFamily<KZCEkaMOKManagerCrossBorder, CROSSBORDER_FAMILY>>(m_ePath, strCsv,
+                                                                                 m_strMok);
+            break;
+    }
+    EXPECT_EQ(strDetail, m_eFamily == Family::Base ? "9999-00003-HE70004E,9999-00003-HE70004E"
+                                                   : "9999-00003-HE70004E");
 }
 
 TEST_F(RequestStepsTest, ErrorsAreTakenAsTheFamilyWants)

@@ -290,7 +290,7 @@ void BatchPage::AppendCodes(std::string& strHtml) const
                           {"Files", "ファイル数"}}) +
                "<tbody>\n";
     for (const auto& [strCode, total] : vecCode)
-        strHtml += "<tr><td>" + HtmlText(strCode) + "</td><td lang=\"ja\">" +
+        strHtml += "<tr><td class=\"k\">" + HtmlText(strCode) + "</td><td lang=\"ja\">" +
                    HtmlOwnText(MessageOf(strCode)) + "</td><td class=\"n\">" +
                    Number(total.nErrors) + "</td><td class=\"n\">" + Number(total.nFiles) +
                    "</td></tr>\n";
@@ -312,7 +312,7 @@ void BatchPage::AppendProcedures(std::string& strHtml) const
         strHtml += std::string("<th scope=\"col\">") + Say(OutcomeText(eOutcome)) + "</th>";
     strHtml += "</tr></thead>\n<tbody>\n";
     for (const auto& [strProcedure, total] : m_mapProcedure) {
-        strHtml += "<tr><td>" +
+        strHtml += "<tr><td class=\"k\">" +
                    (strProcedure.empty() ? std::string(Say({"(unknown)", "（不明）"}))
                                          : HtmlText(strProcedure)) +
                    "</td><td class=\"n\">" + Number(total.nFiles) + "</td>";
@@ -369,7 +369,7 @@ void BatchPage::AppendFiles(std::string& strHtml)
                        Say(OutcomeText(eOutcome)) + "</option>";
     strHtml +=
         "</select></label><output id=\"shown\" class=\"soft\"></output></form>\n"
-        "<div class=\"scroll\"><table id=\"files\">\n" +
+        "<div class=\"scroll wide\"><table id=\"files\">\n" +
         TableHead({{"File", "ファイル"},
                    {"Result", "結果"},
                    {"Procedure", "手続"},

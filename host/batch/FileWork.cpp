@@ -16,6 +16,7 @@
 #include "Profile.h"
 #include "SafeText.h"
 #include "UsageError.h"
+#include "XercesGuards.h"
 
 namespace fs = std::filesystem;
 
@@ -128,6 +129,7 @@ private:
 
     const BatchSettings& m_settings;
     const std::vector<BatchFile>& m_vecFile;
+    XercesSession m_xml;  ///< running from file to file: its start takes longer than a small file
     Definitions m_definitions;
 };
 

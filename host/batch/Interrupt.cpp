@@ -53,8 +53,11 @@ Interrupt::~Interrupt()
     sigprocmask(SIG_SETMASK, &m_before, nullptr);
 }
 
-int Interrupt::Count()
+int Interrupt::Count() const
 {
+    sigset_t held;
+    sigprocmask(SIG_SETMASK, &m_before, &held);  // those that wait are handled here
+    sigprocmask(SIG_SETMASK, &held, nullptr);
     return g_nCount;
 }
 

@@ -16,8 +16,8 @@ public:
     Interrupt(const Interrupt&) = delete;
     Interrupt& operator=(const Interrupt&) = delete;
 
-    /// How many came.
-    static int Count();
+    /// How many came, up to now.
+    int Count() const;
     const sigset_t* WaitMask() const { return &m_before; }
     /// For a child: it ignores them, as its parent decides.
     static void IgnoreInChild();

@@ -22,7 +22,9 @@ background:var(--panel)}
 .bar{display:flex;height:.75rem;border-radius:.4rem;overflow:hidden;background:var(--line)}
 .bar span{display:block}
 .side{display:flex;flex-wrap:wrap;gap:0 2.5rem;align-items:flex-start}
+.side section{max-width:100%}
 .scroll{overflow-x:auto}
+.wide{overflow:visible}
 table{border-collapse:collapse;font-size:.92rem}
 #files{width:100%}
 th,td{padding:.3rem .6rem;border-bottom:1px solid var(--line);text-align:left;vertical-align:top;
@@ -30,7 +32,8 @@ overflow-wrap:anywhere}
 th{background:var(--panel);white-space:nowrap}
 #files thead th{position:sticky;top:0}
 .n{text-align:right;white-space:nowrap;font-variant-numeric:tabular-nums}
-.o{white-space:nowrap;font-weight:600}
+.k,.o{white-space:nowrap}
+.o{font-weight:600}
 .good{color:var(--good)}.bad{color:var(--bad)}.warn{color:var(--warn)}
 .bar .good{background:var(--good)}.bar .bad{background:var(--bad)}.bar .warn{background:var(--warn)}
 th button{all:unset;cursor:pointer}
@@ -44,7 +47,8 @@ input,select{font:inherit;padding:.3rem .5rem;color:inherit;background:var(--gro
 border:1px solid var(--line);border-radius:.3rem}
 details ul{margin:.25rem 0;padding-left:1.2rem}
 code{font-family:ui-monospace,"Noto Sans Mono CJK JP",monospace}
-@media(max-width:40rem){body{padding:.75rem}th,td{padding:.25rem .35rem}}
+@media(max-width:60rem){body{padding:.75rem}th,td{padding:.25rem .35rem}.wide{overflow-x:auto}
+#files{min-width:50rem}}
 @media print{form{display:none!important}#files thead th{position:static}}
 )";
 

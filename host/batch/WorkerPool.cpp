@@ -90,7 +90,7 @@ WorkerPool::~WorkerPool()
 void WorkerPool::Run()
 {
     for (;;) {
-        if (Interrupt::Count() == 0)
+        if (m_interrupt.Count() == 0)
             HandOut();
         else if (!m_interrupted)
             m_interrupted = SteadyNow();
@@ -236,10 +236,10 @@ void WorkerPool::Settle(Worker& worker, JobEnd eEnd, std::string strAnswer)
 void WorkerPool::KillLate()
 {
     const double dNow = SteadyNow();
-    if (Interrupt::Count() > 0 && !m_interrupted)
+    if (m_interrupt.Count() > 0 && !m_interrupted)
         m_interrupted = dNow;
     const bool bCancel =
-        m_interrupted && (Interrupt::Count() > 1 || dNow - *m_interrupted > GRACE_SECONDS);
+        m_interrupted && (m_interrupt.Count() > 1 || dNow - *m_interrupted > GRACE_SECONDS);
     for (Worker& worker : m_vecWorker) {
         if (!worker.bBusy)
             continue;

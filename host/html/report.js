@@ -169,4 +169,5 @@ document.addEventListener("click", (event) => {
   if (link && link.hash === location.hash) reachTarget();
 });
 window.addEventListener("hashchange", reachTarget);
-if (location.hash) reachTarget();
+// The browser's own way to the target, which leaves the focus nowhere, comes first.
+if (location.hash) window.addEventListener("load", () => setTimeout(reachTarget));

@@ -13,7 +13,7 @@ std::vector<LintFinding> LintFolder(const std::string& strBundle,
         for (LintForm& form : pFile->vecForm)
             PlaceItems(*pFile, form, report);
         LintElements(*pFile, report);
-        LintCatalogue(*pFile, vecTypeId.empty(), report);
+        LintCatalogue(*pFile, vecTypeId, report);
         LintItems(*pFile, report);
         LintColumns(*pFile, report);
         LintChecks(*pFile, report);

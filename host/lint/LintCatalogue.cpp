@@ -40,7 +40,9 @@ constexpr LintTexts UNEXPECTED_REPORT = {
      "{1}は001～009の申請区分ではありません。"},
     {"Correct the id, or remove the report.", "idを直すか、reportを削除してください。"}};
 
-void LookAtTypeIds(const LintFile& file, bool bAll, LintReport& report)
+void LookAtTypeIds(const LintFile& file,
+                   const std::vector<std::string>& vecTypeId,
+                   LintReport& report)
 {
     for (auto form = file.vecForm.begin(); form != file.vecForm.end(); ++form) {
         const auto same = std::ranges::find(file.vecForm, form->strTypeId, &LintForm::strTypeId);
@@ -51,9 +53,14 @@ void LookAtTypeIds(const LintFile& file, bool bAll, LintReport& report)
             report.Add(LintRule::UnexpectedReport, form->At(file.strName), UNEXPECTED_REPORT,
                        {form->strTypeId});
     }
-    if (!bAll)
-        return;
-    for (const std::string strTypeId : BASE_TYPE_IDS)
+    std::vector<std::string> vecWanted(BASE_TYPE_IDS.begin(), BASE_TYPE_IDS.end());
+    if (!vecTypeId.empty()) {
+        vecWanted = vecTypeId;
+        std::erase_if(vecWanted, [](const std::string& strTypeId) {
+            return FamilyOfTypeId(strTypeId) != Family::Base;
+        });
+    }
+    for (const std::string& strTypeId : vecWanted)
         if (std::ranges::find(file.vecForm, strTypeId, &LintForm::strTypeId) == file.vecForm.end())
             report.Add(LintRule::MissingReport, {file.strName, file.xml.root->lLine},
                        MISSING_REPORT, {strTypeId});
@@ -106,10 +113,12 @@ void LookAtReports(const LintFile& file, LintReport& report)
 
 }  // namespace
 
-void LintCatalogue(const LintFile& file, bool bAllTypeIds, LintReport& report)
+void LintCatalogue(const LintFile& file,
+                   const std::vector<std::string>& vecTypeId,
+                   LintReport& report)
 {
     if (file.eFamily == Family::Base)
-        LookAtTypeIds(file, bAllTypeIds, report);
+        LookAtTypeIds(file, vecTypeId, report);
     else if (!file.vecForm.empty())
         LookAtReports(file, report);
 }

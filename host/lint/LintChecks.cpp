@@ -120,7 +120,7 @@ constexpr Text AS_REFERENCE = {"row_col: a record and the column of its date's e
 constexpr Text AS_RECORD = {"the number of a record, from 1", "レコードの番号（1から）"};
 constexpr Text AS_YEARS = {"Western years with blanks between them", "空白で区切った西暦の年"};
 constexpr Text AS_RANGE = {"two numbers, min not above max; one that is left out is 0",
-                           "min以下でないmaxとの2つの数（省くと0）"};
+                           "2つの数。minはmax以下（省くと0）"};
 constexpr Text AS_AGE = {
     "column of the birth date, column of the reference year, years to add, "
     "month, day, and \"days\" if wanted",
@@ -169,7 +169,7 @@ public:
         const std::string strWanted = say(wanted);
         constexpr Text GIVEN = {"\"{1}\": {2}=\"{3}\": {4}.", "「{1}」の{2}=\"{3}\"：{4}。"};
         constexpr Text ABSENT = {"\"{1}\" has no {2}: {4}.", "「{1}」に{2}がありません（{4}）。"};
-        constexpr Text ADVICE = {"Write {2} as {4}.", "{2}の書き方：{4}。"};
+        constexpr Text ADVICE = {"How {2} is written: {4}.", "{2}の書き方：{4}。"};
         m_report.Add(
             LintRule::BadParameter, Place(),
             Say(strValue.empty() ? ABSENT : GIVEN, {strKeyword, szName, strValue, strWhat}),

@@ -101,6 +101,9 @@ private:
         if (bKnownLimit && item.lColumn > m_form.lColumnNum)
             Add(LintRule::ColumnBeyond, item.pElement, ITEM_BEYOND,
                 {Text10(item.lColumn), Text10(m_form.lColumnNum)});
+        // In a tree that could not be built whole nobody knows who has children.
+        if (m_form.bTooDeep)
+            return;
         const bool bLeaf = item.vecChild.empty() && item.strType != "IdRef";
         if (m_file.HasDocument() && bLeaf && item.lColumn == 0)
             Add(LintRule::MissingColumn, item.pElement, LEAF_WITHOUT, {});

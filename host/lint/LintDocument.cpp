@@ -55,9 +55,25 @@ constexpr LintTexts OTHER_ORDER = {
     {"The file has the reports {1}; {2} has {3}.",
      "このファイルのreportは{1}ですが、{2}では{3}です。"},
     {"Let both have the same reports in the same order.", "同じreportを同じ順にしてください。"}};
-constexpr LintTexts OTHER_VERSION = {{"The report \"{1}\" has version {2}; {3} has {4}.",
-                                      "report「{1}」の版は{2}ですが、{3}では{4}です。"},
-                                     {"Let both have the same version.", "同じ版にしてください。"}};
+constexpr LintTexts PAGE_NOT_OPENED = {
+    {"With {2} records, record {1} is written while no page is open: the record that should open "
+     "one writes nothing.",
+     "{2}件のとき、レコード{1}はページが開かないまま書かれます。"
+     "ページを開くレコードで何も書かれないためです。"},
+    {"Let an item write something at the first record of each page, whatever it is.",
+     "各ページの最初のレコードで必ず何かが書かれるようにしてください。"}};
+constexpr LintTexts PAGE_OPENED_TWICE = {
+    {"With {2} records, a page opens at record {1} before the last one is closed.",
+     "{2}件のとき、レコード{1}で前のページが閉じないうちに次のページが開きます。"},
+    {"Let every item write something at the last record of each page, and look at startRow, endRow "
+     "and stepRow.",
+     "各ページの最後のレコードで何かが書かれるようにし、startRow・endRow・stepRowを確認してください"
+     "。"}};
+constexpr LintTexts PAGE_NOT_CLOSED = {
+    {"With {1} records, the last page is never closed: its last record writes nothing.",
+     "{1}件のとき、最後のページが閉じません。最後のレコードで何も書かれないためです。"},
+    {"Let an item write something at the report's last record.",
+     "reportの最後のレコードで何かが書かれるようにしてください。"}};
 constexpr LintTexts UNFILTERED_GENERATION = {
     {"The item is for \"{1}\" records, but is written for others too: the group above it writes "
      "all "
@@ -121,11 +137,14 @@ private:
         // Fewer records than forms are refused before anything is written.
         const std::size_t nForms =
             m_pChecks != nullptr ? m_pChecks->vecForm.size() : m_document.vecForm.size();
-        for (const long lCount : SampleCounts(m_document, static_cast<long>(nForms)))
+        for (const long lCount : SampleCounts(m_document, static_cast<long>(nForms))) {
             ForEachWrittenRecord(m_document, lCount, [&](const LintForm& form, long lRecord) {
                 if (IsSampleRecord(m_document, lRecord, lCount))
                     WriteOne(form, "", lRecord, lCount);
+                TurnPages(form, lRecord, lCount);
             });
+            ClosePage(lCount);
+        }
         if (m_pChecks != nullptr && !m_pChecks->vecForm.empty())
             CompareReports();
     }
@@ -151,19 +170,84 @@ private:
             CompareRecord(form, lRecord, lCount);
     }
 
-    /// Of the procedure whose report runs over many records.
-    static bool OpensPage(const LintForm& form, long lRecord, long lCount)
+    /// Where the trailer begins, counted from the end; 0 if there is none.
+    static long TrailerRow(const LintForm& form)
     {
-        if (form.lStartRow == 0 || lRecord == form.lStartRow)
-            return true;
         long lTrailer = 0;
         for (const LintItem& item : form.vecItem)
             if (item.lLastRecord == 1)
                 lTrailer = std::min(lTrailer, item.lStartRow);
+        return lTrailer;
+    }
+
+    bool OpensPage(const LintForm& form, long lRecord, long lCount) const
+    {
+        if (form.lStartRow == 0 || lRecord == form.lStartRow)
+            return true;
         const long lBehind = lRecord - form.lStartRow;
-        return form.lEndRow != 0 && form.lStepRow != 0 && lBehind > 0 &&
-               lBehind % form.lStepRow == 0 &&
-               (lTrailer == 0 || RowFromFront(lTrailer, lCount) > lRecord);
+        if (form.lStepRow == 0 || form.lStartRow >= lRecord || lBehind % form.lStepRow != 0)
+            return false;
+        const long lTrailer = TrailerRow(form);
+        return !m_document.IsMulti() ||
+               (form.lEndRow != 0 && (lTrailer == 0 || RowFromFront(lTrailer, lCount) > lRecord));
+    }
+
+    bool ClosesPage(const LintForm& form, long lRecord, long lCount) const
+    {
+        const bool bMulti = m_document.IsMulti();
+        const long lEnd = bMulti ? RowFromFront(form.lEndRow, lCount) : form.lEndRow;
+        if (form.lEndRow == 0 || lRecord == lEnd || lRecord == lCount)
+            return true;
+        const long lBehind = lRecord - form.lStartRow;
+        if (form.lStartRow == 0 || form.lStepRow <= 0 || form.lStartRow >= lRecord ||
+            lBehind % form.lStepRow != form.lStepRow - 1)
+            return false;
+        const long lTrailer = TrailerRow(form);
+        return !bMulti || lTrailer == 0 || RowFromFront(lTrailer, lCount) - 1 > lRecord;
+    }
+
+    /// Opens and closes the pages of one record as the writers do.
+    void TurnPages(const LintForm& form, long lRecord, long lCount)
+    {
+        if (&form != m_pPageForm) {
+            ClosePage(lCount);
+            m_pPageForm = &form;
+        }
+        LintWriter writer(form, "", lCount);
+        writer.WriteRecord(lRecord);
+        const bool bBody = !writer.Written().empty();
+        // The last record closes a page of many records even if it writes nothing itself.
+        if (!bBody && !(m_document.IsMulti() && lRecord == lCount))
+            return;
+        if (OpensPage(form, lRecord, lCount)) {
+            if (m_bPageOpen)
+                TellPage(form, PAGE_OPENED_TWICE, lRecord, lCount);
+            m_bPageOpen = true;
+        } else if (!m_bPageOpen) {
+            TellPage(form, PAGE_NOT_OPENED, lRecord, lCount);
+        }
+        if (ClosesPage(form, lRecord, lCount))
+            m_bPageOpen = false;
+    }
+
+    /// No record of the form follows.
+    void ClosePage(long lCount)
+    {
+        if (m_bPageOpen)
+            TellPage(*m_pPageForm, PAGE_NOT_CLOSED, lCount, lCount);
+        m_bPageOpen = false;
+        m_pPageForm = nullptr;
+    }
+
+    void TellPage(const LintForm& form, const LintTexts& texts, long lRecord, long lCount)
+    {
+        const LintPlace place = form.At(m_document.strName);
+        // Rows and steps that can't be have been told already.
+        if (!m_setPage.insert(&form).second ||
+            m_report.HasError(place.strFile, place.lLine, place.lLine))
+            return;
+        m_report.Add(LintRule::BrokenPage, place, texts,
+                     {std::to_string(lRecord), std::to_string(lCount)});
     }
 
     void NoteWritten(const LintForm& form,
@@ -176,7 +260,7 @@ private:
         for (const std::size_t nItem : vecWritten) {
             const LintItem& item = form.vecItem[nItem];
             Note(item, lRecord, lCount);
-            if (m_document.eFamily == Family::Base && !item.strGeneration.empty() &&
+            if (m_document.eFamily == Family::Base && IsGeneration(item.strGeneration) &&
                 item.strGeneration != strGeneration && m_setUnfiltered.insert(&item).second)
                 Add(LintRule::BadGeneration, item, UNFILTERED_GENERATION, {item.strGeneration});
             if (item.lColumn == 0 || item.strType == "IdRef" || item.strType == "Zeimusho")
@@ -323,17 +407,11 @@ private:
         if (vecOwn != vecOther && m_setOther.empty())
             m_report.Add(LintRule::PairMismatch, {m_document.strName, m_document.xml.root->lLine},
                          OTHER_ORDER, {join(vecOwn), m_pChecks->strName, join(vecOther)});
-        for (const LintForm& form : m_document.vecForm) {
-            const auto other =
-                std::ranges::find(m_pChecks->vecForm, form.strReportId, &LintForm::strReportId);
-            if (other == m_pChecks->vecForm.end())
-                continue;
-            const std::string& strOwn = form.pElement->Attribute("reportVR");
-            const std::string& strOther = other->pElement->Attribute("reportVR");
-            if (!strOther.empty() && !strOwn.empty() && strOwn != strOther)
-                m_report.Add(LintRule::PairMismatch, form.At(m_document.strName), OTHER_VERSION,
-                             {form.strReportId, strOwn, m_pChecks->strName, strOther});
-        }
+    }
+
+    static bool IsGeneration(const std::string& strGeneration)
+    {
+        return strGeneration == "junior" || strGeneration == "senior";
     }
 
     static bool IsBefore(const LintItem& first, const LintItem& second) { return &first < &second; }
@@ -356,6 +434,9 @@ private:
     std::set<ItemKey> m_setUnfiltered;
     std::set<ItemKey> m_setOpen;
     std::set<const LintForm*> m_setOther;
+    std::set<const LintForm*> m_setPage;
+    const LintForm* m_pPageForm = nullptr;  ///< whose pages are being turned
+    bool m_bPageOpen = false;
 };
 
 }  // namespace

@@ -139,7 +139,7 @@ public:
         }
         const long lMax = m_file.MaxRecord();
         const long lUncovered = bTrailer ? lMax - 1 : lMax;
-        if (m_pBefore != nullptr && !m_bOpen && m_lNext <= lUncovered)
+        if (m_pBefore != nullptr && !m_bBad && !m_bOpen && m_lNext <= lUncovered)
             Add(LintRule::RangeGap, *m_pBefore, GAP_TO_END, {Number(m_lNext)});
     }
 
@@ -147,6 +147,8 @@ private:
     void LookAt(const LintForm& form)
     {
         const bool bSingle = m_file.vecForm.size() == 1;
+        const bool bBadBefore = m_bBad;
+        m_bBad = true;  // until the range is found to be good
         if (form.lStartRow < 0) {
             Add(LintRule::BadRange, form, NEGATIVE_START, {Number(form.lStartRow)});
             return;
@@ -164,6 +166,7 @@ private:
             Add(LintRule::BadRange, form, REVERSED, {Number(lStart), Number(form.lEndRow)});
             return;
         }
+        m_bBad = bBadBefore;
         if (m_bOpen)
             Add(LintRule::RangeOverlap, form, BEHIND_OPEN_END,
                 {Number(lStart), Number(m_pBefore->pElement->lLine)});
@@ -189,6 +192,7 @@ private:
     LintReport& m_report;
     const LintForm* m_pBefore = nullptr;  ///< the last one with a good range
     bool m_bOpen = false;                 ///< it reaches to the end
+    bool m_bBad = false;                  ///< a report has none: what it was to cover is unknown
     long m_lNext = 1;                     ///< first record behind it
 };
 

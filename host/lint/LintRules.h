@@ -58,6 +58,7 @@ enum class LintRule
     BadStep,
     BadItemRange,
     BadRepeat,
+    BrokenPage,
     OpenGroup,
     CloseOrder,
     NeverWritten,

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "lint/LintBundle.h"
 #include "lint/LintReport.h"
@@ -19,7 +20,10 @@ void LintChecks(const LintFile& file, LintReport& report);
 /// Records of the reports of a file.
 void LintRanges(const LintFile& file, LintReport& report);
 /// Ids against the catalogue and type ids.
-void LintCatalogue(const LintFile& file, bool bAllTypeIds, LintReport& report);
+/// \param vecTypeId  Those that are wanted; empty for all.
+void LintCatalogue(const LintFile& file,
+                   const std::vector<std::string>& vecTypeId,
+                   LintReport& report);
 /// What a template writes at which record, and whether the checks agree.
 /// \param pChecks  The procedure's validation file; null if there is none.
 void LintDocument(const LintFile& document, const LintFile* pChecks, LintReport& report);

@@ -63,7 +63,7 @@ HOSTILE = {
 
 def report(*names, language="en", options=()):
     """Writes the page over files of the folder and returns its path."""
-    page = os.path.join(FOLDER, "-".join(names) + f"-{language}.html")
+    page = os.path.join(FOLDER, "-".join([*names, language, *options]) + ".html")
     with open(page, "wb") as file:
         subprocess.run(
             [OPTIONS.kzekamok, "--lang", language, "check", "--format", "html", *options, *names],
@@ -88,6 +88,9 @@ class ReportPageTest(unittest.TestCase):
         page.open(path or self.one, options.get("fragment", ""))
         self.addCleanup(page.call, "Page.close")
         return page
+
+    def wait(self, page, milliseconds=100):
+        page.eval(f"new Promise(done => setTimeout(done, {milliseconds}))")
 
     def shown_errors(self, page):
         return page.eval("[...document.querySelectorAll('.group li')]"
@@ -132,14 +135,14 @@ class ReportPageTest(unittest.TestCase):
         page = self.page()
         page.press("/")
         page.type("ABC")
-        page.eval("new Promise(done => setTimeout(done, 400))")
+        self.wait(page, 400)
         self.assertEqual(self.shown_errors(page), ["e1-2"])
         self.assertEqual(page.eval("document.querySelector('.shown').textContent"), "1 / 6")
         self.assertEqual(
             page.eval("[...document.querySelectorAll('td.e:not(.off)')].map(e => e.id)"),
             ["c1-3-9"])
         page.click(".filter button")
-        page.eval("new Promise(done => setTimeout(done, 100))")
+        self.wait(page)
         self.assertEqual(len(self.shown_errors(page)), 6)
 
     def test_filter_by_column_and_by_code(self):
@@ -190,7 +193,7 @@ class ReportPageTest(unittest.TestCase):
         page.press("p")
         self.assertEqual(self.focused(page), "e1-6")
         page.press("Enter")
-        page.eval("new Promise(done => setTimeout(done, 100))")
+        self.wait(page)
         self.assertEqual(self.focused(page), "c1-59-40")
         self.assertTrue(page.eval(
             "(() => { const c = document.activeElement.getBoundingClientRect();"
@@ -200,11 +203,12 @@ class ReportPageTest(unittest.TestCase):
         self.assertIn("record 59, column 40", page.eval(
             "document.querySelector('.now').textContent"))
         page.press("Enter")
-        page.eval("new Promise(done => setTimeout(done, 100))")
+        self.wait(page)
         self.assertEqual(self.focused(page), "e1-6")
 
     def test_keys_move_from_cell_to_cell_in_the_grid(self):
         page = self.page(fragment="#c1-3-5")
+        self.wait(page)
         self.assertEqual(self.focused(page), "c1-3-5")
         ways = []
         for key in ("ArrowRight", "ArrowLeft", "ArrowDown", "ArrowDown", "ArrowUp", "n", "p"):
@@ -303,7 +307,8 @@ class ReportPageTest(unittest.TestCase):
         page = chromium.Page(BROWSER)
         self.addCleanup(page.call, "Page.close")
         seconds = page.open(path)
-        self.assertEqual(page.eval("document.querySelectorAll('td').length"), RECORDS * COLUMNS)
+        self.assertEqual(page.eval("document.querySelectorAll('.chunk td').length"),
+                         RECORDS * COLUMNS)
         self.assertEqual(len(self.shown_errors(page)), len(wrong))
         filtered = page.eval(
             "(() => { const c = document.querySelector('[name=column]');"

@@ -6,36 +6,15 @@
 #include <nlohmann/json.hpp>
 #include <sstream>
 
+#include "Advice.h"
+#include "ReportCases.h"
+
 namespace host {
 namespace {
 
 using nlohmann::json;
 using testing::HasSubstr;
 using testing::Not;
-
-ReportedError CellError(long lRecord, long lColumn, KZCEkaMessage_t eMessage)
-{
-    ReportedError error;
-    error.entry = {lRecord, lColumn, SINGLE_COLUMN, EkaMsgTable[eMessage].szCode, eMessage};
-    error.eScope = ErrorScope::Cell;
-    error.nLine = static_cast<std::size_t>(lRecord) + 1;
-    error.strName = "氏名";
-    error.value = "abc";
-    return error;
-}
-
-FileReport RefusedReport()
-{
-    FileReport report;
-    report.strFile = "a.csv";
-    report.eOutcome = Outcome::Refused;
-    report.eStatus = ExitStatus::Refused;
-    report.strProcedure = "PGE5020";
-    report.records = 20;
-    report.vecError = {CellError(3, 5, HE70003E), CellError(3, 6, HE70001E),
-                       CellError(4, 5, HE70003E)};
-    return report;
-}
 
 std::string Text(const FileReport& report, const ReportStyle& style = {})
 {
@@ -78,6 +57,52 @@ TEST(TextReportTest, RefusedFileTellsEachErrorAndTheCounts)
               "  Errors by column: 5 氏名 × 2, 6 氏名 × 1\n"
               "  Errors by code: HE70001E × 1, HE70003E × 2\n"
               "  To do: correct the file as told above and check it again.\n");
+}
+
+TEST(TextReportTest, JapaneseTellsTheSame)
+{
+    const InJapanese inJapanese;
+    FileReport report = RefusedReport();
+    report.vecError.resize(2);
+    report.vecError[0].strRule = "全角カタカナ・全角空白";
+    report.vecError[1].value = "";
+    EXPECT_EQ(Text(report),
+              "a.csv: 不合格、20レコード中1レコードに2件のエラー（手続PGE5020）\n"
+              "  レコード3、項目5（氏名）：「abc」\n"
+              "    HE70003E 全角カタカナ以外の文字が含まれています。\n"
+              "    規則：全角カタカナ・全角空白\n"
+              "    " +
+                  std::string(AdviceFor(HE70003E)) +
+                  "\n"
+                  "  レコード3、項目6（氏名）：空\n"
+                  "    HE70001E 値が入力されていません。\n"
+                  "    " +
+                  AdviceFor(HE70001E) +
+                  "\n"
+                  "  項目別：5 氏名 × 1、6 氏名 × 1\n"
+                  "  コード別：HE70001E × 1、HE70003E × 1\n"
+                  "  対処：上のエラーを直して、もう一度チェックしてください。\n");
+}
+
+TEST(TextReportTest, RuleIsToldIfItIsKnown)
+{
+    FileReport report = RefusedReport();
+    EXPECT_THAT(Text(report), Not(HasSubstr("Rule:")));
+    report.vecError.front().strRule = "up to 5 digits";
+    EXPECT_THAT(Text(report), HasSubstr("含まれています。\n    Rule: up to 5 digits\n    Only"));
+}
+
+TEST(TextReportTest, ColumnsWithMostErrorsAreCountedFirstAndTheRestTogether)
+{
+    FileReport report = RefusedReport();
+    report.vecError.clear();
+    for (long lColumn = 1; lColumn <= 10; ++lColumn)
+        report.vecError.push_back(CellError(1, lColumn, HE70001E));
+    report.vecError.push_back(CellError(2, 10, HE70001E));
+    for (ReportedError& error : report.vecError)
+        error.strName.clear();
+    EXPECT_THAT(Text(report), HasSubstr("  Errors by column: 10 × 2, 1 × 1, 2 × 1, 3 × 1, 4 × 1, "
+                                        "5 × 1, 6 × 1, 7 × 1; 2 other columns have fewer\n"));
 }
 
 TEST(TextReportTest, CutListSaysSoAndCountsAll)
@@ -164,7 +189,7 @@ TEST(TextReportTest, WrittenDocumentIsAccountedFor)
     report.document = WrittenDocument{"out.mok", 12345};
     EXPECT_EQ(Text(report),
               "a.csv: converted, 1 record (procedure PGE5020)\n"
-              "  document: out.mok, 12,345 bytes\n");
+              "  document: out.mok, 12,345 bytes, base family\n");
 }
 
 TEST(TextReportTest, TotalsCountEachOutcome)

@@ -54,8 +54,9 @@ start() {
 worker() {
     local child n
     for ((n = 0; n < 500; n++)); do
-        read -r child _ <"/proc/$batch/task/$batch/children" 2>/dev/null
+        { read -r child _ <"/proc/$batch/task/$batch/children"; } 2>/dev/null
         [ -n "$child" ] && break
+        [ -e "/proc/$batch" ] || break
         sleep 0.02
     done
     echo "$child"
@@ -66,6 +67,7 @@ wait_for_lines() {
     local n
     for ((n = 0; n < 3000; n++)); do
         [ -e "$1" ] && [ "$(lines "$1")" -ge "$2" ] && return
+        [ -e "/proc/$batch" ] || break
         sleep 0.02
     done
     fail "$1 never got $2 lines"

@@ -75,6 +75,19 @@ for arguments in "" "frobnicate" "check" "check --frobnicate pass.csv" "check --
     expect_in err "--help" "kzekamok $arguments points to the help"
 done
 
+run frobnicate
+expect_in err "frobnicate is no subcommand; there are check, convert, " "an unknown subcommand is named"
+run check --frobnicate pass.csv
+expect_in err "there is no option --frobnicate here" "an unknown option is named"
+run check
+expect_in err "FILE is missing" "a missing argument is named"
+run check --format xml pass.csv
+expect_in err "--format xml: has to be one of html, json, sarif, text" "an unknown format is named"
+run convert pass.csv fail.csv -o out.mok
+expect_in err "unexpected argument: fail.csv" "one file too many is named"
+run $'\x1b[2J'
+expect_not_in err $'\x1b' "a hostile argument is escaped"
+
 run convert pass.csv "${profile[@]}" -o out.xml
 expect_status 2 "an output that isn't named .mok"
 run convert pass.csv --profile absent.toml -o out.mok

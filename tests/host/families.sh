@@ -25,6 +25,9 @@ for procedure in "${!family[@]}"; do
     [ "$name" = base ] || given+=("${day[@]}")
     run convert pass.csv "${given[@]}" -o "$procedure.mok"
     expect_status 0 "$procedure: a conversion"
+    expect_in out "document: $procedure.mok, $(stat -c %s "$procedure.mok" | sed ':a;s/\B[0-9]\{3\}\>/,&/;ta') bytes" \
+        "$procedure: its document is told"
+    expect_in out " bytes, $name family" "$procedure: its family is told"
     expect_in "$procedure.mok" "<procedure_CD>$procedure</procedure_CD>" "$procedure: its document"
 done
 

@@ -55,4 +55,8 @@ strHost=$strPrefix/bin/kzekamok
 if [ -e "$strHost" ]; then
     "$strHost" check "$strSamples/PGE5020_pass.csv"
     cmp "$strRoot/host/kzekamok.1" "$strPrefix/share/man/man1/kzekamok.1" || fail "manual page"
+    "$strHost" completion bash --lang en |
+        cmp - "$strPrefix/share/bash-completion/completions/kzekamok" || fail "completion for bash"
+    "$strHost" completion zsh --lang en |
+        cmp - "$strPrefix/share/zsh/site-functions/_kzekamok" || fail "completion for zsh"
 fi

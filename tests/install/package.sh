@@ -110,7 +110,9 @@ expect_equal "$(files_of libkzekamok-dev)" "$({
 if [ "$bHost" = 1 ]; then
     expect_depends kzekamok "libkzekamok2 \\(= $strDebian\\)" "${listCommon[@]}"
     expect_equal "$(files_of kzekamok)" "$(
-        printf '%s\n' usr/bin/kzekamok usr/share/man/man1/kzekamok.1.gz | with_documents kzekamok
+        printf 'usr/%s\n' bin/kzekamok share/man/man1/kzekamok.1.gz \
+            share/bash-completion/completions/kzekamok share/zsh/vendor-completions/_kzekamok |
+            with_documents kzekamok
     )" "files of kzekamok"
     dpkg-deb --fsys-tarfile "$(deb kzekamok)" | tar -xO ./usr/share/man/man1/kzekamok.1.gz |
         gzip -dc | cmp - "$strRepository/host/kzekamok.1" || fail "manual page"

@@ -25,10 +25,12 @@ export PKG_CONFIG_PATH=${strPackageFile%/*}
 [ "$(pkg-config --modversion KZEkaMokObjC)" = 2.0.0 ] || fail "pkg-config tells another version"
 
 cd "$strWork"
-# The flags are words, so they stay unquoted.
-"$strCompiler" -std=gnu11 $(gnustep-config --objc-flags) "$strRoot/examples/objc/convert.m" \
-    -o convert $(pkg-config --cflags --libs KZEkaMokObjC) \
-    "-Wl,-rpath,$(dirname "$PKG_CONFIG_PATH")"
+for strExample in objc/convert first/check; do
+    # The flags are words, so they stay unquoted.
+    "$strCompiler" -std=gnu11 $(gnustep-config --objc-flags) "$strRoot/examples/$strExample.m" \
+        -o "${strExample#*/}" $(pkg-config --cflags --libs KZEkaMokObjC) \
+        "-Wl,-rpath,$(dirname "$PKG_CONFIG_PATH")"
+done
 
 unset KZEKAMOK_BUNDLE
 strActual=$(./convert "$strRoot/samples/PGE5020_pass.csv")
@@ -38,3 +40,8 @@ if strActual=$(./convert "$strRoot/samples/PGE5020_fail.csv"); then
 fi
 strExpected=$(tr , '\n' <"$strRoot/samples/PGE5020_fail.detail")
 [ "$strActual" = "$strExpected" ] || fail "refused: $strActual"
+
+# The shortest program tells the same on one line.
+[ "$(./check "$strRoot/samples/PGE5020_pass.csv")" = "S_OK " ] || fail "the shortest: passed"
+[ "$(./check "$strRoot/samples/PGE5020_fail.csv")" = \
+    "E_FAIL $(cat "$strRoot/samples/PGE5020_fail.detail")" ] || fail "the shortest: refused"

@@ -147,7 +147,8 @@ const FolderCase ELEMENTS[] = {
     {"RepeatedHeadMisspelt",
      MULTI,
      {{LINT_MULTI_TPL, R"(repeatTopTag="1")", R"(repeatTopTag="true")"}},
-     {{"bad-flag", LINT_MULTI_TPL, R"(repeatTopTag)"}}},
+     {{"bad-flag", LINT_MULTI_TPL, R"(repeatTopTag)"},
+      {"never-written", LINT_MULTI_TPL, R"(id="NAME")"}}},
     {"ReportWithoutLabel",
      BASE,
      {{LINT_BASE, R"( label="様式")", ""}},
@@ -349,7 +350,7 @@ const FolderCase CHECKED_RANGES[] = {
     {"StartMissing",
      TWO,
      {{LINT_TWO_VLD, R"(startRow="3" )", ""}},
-     {{"bad-range", LINT_TWO_VLD, "明細書"}, {"range-gap", LINT_TWO_VLD, "合計表"}}},
+     {{"bad-range", LINT_TWO_VLD, "明細書"}}},
     {"NegativeStart",
      ONE,
      {{LINT_VLD, "<report ", R"(<report startRow="-1" )"}},
@@ -374,11 +375,11 @@ const FolderCase CHECKED_RANGES[] = {
     {"Overlap",
      TWO,
      {{LINT_TWO_VLD, R"(endRow="2")", R"(endRow="3")"}},
-     {{"range-overlap", LINT_TWO_VLD, "明細書"}, {"pair-mismatch", LINT_TWO_TPL, "明細書"}}},
+     {{"pair-mismatch", LINT_TWO_TPL, "明細書"}, {"range-overlap", LINT_TWO_VLD, "明細書"}}},
     {"OpenEndBeforeAnother",
      TWO,
      {{LINT_TWO_VLD, R"(endRow="2")", R"(endRow="-1")"}},
-     {{"range-overlap", LINT_TWO_VLD, "明細書"}, {"pair-mismatch", LINT_TWO_TPL, "明細書"}}},
+     {{"pair-mismatch", LINT_TWO_TPL, "明細書"}, {"range-overlap", LINT_TWO_VLD, "明細書"}}},
     {"TrailerBeforeAnother",
      MULTI,
      {{LINT_MULTI_VLD, R"( lastRecord="1")", R"( startRow="2" endRow="2")"},
@@ -489,7 +490,8 @@ const FolderCase WRITING[] = {
      MULTI,
      {{LINT_MULTI_TPL, R"(startRow="1" endRow="1" )", ""}},
      {{"bad-repeat", LINT_MULTI_TPL, R"(id="HEAD")"},
-      {"shared-column", LINT_MULTI_TPL, R"(id="SUM")"}}},
+      {"shared-column", LINT_MULTI_TPL, R"(id="SUM")"},
+      {"never-written", LINT_MULTI_TPL, R"(id="TOTAL")"}}},
     {"GroupLeftOpen",
      ONE,
      {{LINT_TPL, R"(column="3")", R"(column="3" startRow="2" endRow="2")"}},
@@ -509,6 +511,20 @@ const FolderCase WRITING[] = {
        R"(<item type="TAG" id="LAST")"}},
      {{"close-order", LINT_MULTI_TPL, R"(id="LINE")"},
       {"unchecked-column", LINT_MULTI_TPL, R"(id="TEXT")"}}},
+    {"PageOfAnEmptyRecord",
+     MULTI,
+     {{LINT_MULTI_TPL, R"(startRow="2" endRow="-2")", R"(startRow="3" endRow="-2")"}},
+     {{"broken-page", LINT_MULTI_TPL, "<report"}}},
+    {"LastRecordOfAPageWritesNothing",
+     TWO,
+     {{LINT_TWO_TPL, R"(column="2" label="件数")",
+       R"(column="2" startRow="1" endRow="1" label="件数")"}},
+     {{"broken-page", LINT_TWO_TPL, "合計表"}}},
+    {"FirstRecordOfAPageWritesNothing",
+     TWO,
+     {{LINT_TWO_TPL, R"(column="2" label="件数")",
+       R"(column="2" startRow="2" endRow="2" label="件数")"}},
+     {{"broken-page", LINT_TWO_TPL, "合計表"}}},
     {"NeverWritten",
      MULTI,
      {{LINT_MULTI_TPL, R"(parent="LINE" column="2")", R"(parent="HEAD" column="2")"},
@@ -531,7 +547,7 @@ const FolderCase CATALOGUE[] = {
     {"OtherReportVersion",
      ONE,
      {{LINT_TPL, R"(reportVR="1.0")", R"(reportVR="2.0")"}},
-     {{"catalogue-mismatch", LINT_TPL, "<report"}, {"pair-mismatch", LINT_TPL, "<report"}}},
+     {{"catalogue-mismatch", LINT_TPL, "<report"}}},
     {"OtherReport",
      ONE,
      {{LINT_VLD, R"(reportId="GEZ035")", R"(reportId="GEZ045")"},
@@ -642,6 +658,13 @@ TEST(LintFilesTest, BaseOfOneFormLacksTheOthers)
         "No report has the id 005: f", "No report has the id 006: f", "No report has the id 007: f",
         "No report has the id 008: f", "No report has the id 009: f"};
     EXPECT_EQ(vecMissing, EXPECTED);
+}
+
+TEST(LintFilesTest, TypeIdThatIsAskedForHasToBeThere)
+{
+    const LintFolderText folder;
+    EXPECT_EQ(Brief(folder.Lint({"002", "005"})),
+              std::vector<std::string>{"missing-report KZEkaDefine.xml:2"});
 }
 
 TEST(LintFilesTest, FileOfNoProcedureIsStray)
