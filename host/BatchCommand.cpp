@@ -78,7 +78,7 @@ OUT/index.html は同じ内容のページです。いつでも中断でき、�
 新しいファイル、変更されたファイル、チェックや書き込みができなかったファイルだけを処理します。
 終了ステータスは全ファイルのうち最大のものです。
 
-例:
+例：
   kzekamok batch inbox -o outbox --profile filer.toml
   kzekamok batch inbox -o outbox --check-only -j 4
   find inbox -name '*.csv' -mtime -1 -print0 | kzekamok batch --files-from - -0 -o outbox \

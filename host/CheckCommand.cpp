@@ -4,10 +4,14 @@
 
 #include <CLI/CLI.hpp>
 
+#include <filesystem>
+
 #include "CheckFile.h"
 #include "FamilyOption.h"
 #include "Language.h"
 #include "ReportRun.h"
+#include "SafeText.h"
+#include "UsageError.h"
 
 namespace host {
 namespace {
@@ -19,11 +23,15 @@ constexpr Text FILE_HELP = {"CSV files (.csv, .CSV, .txt, .TXT)",
 constexpr Text EXAMPLES = {R"(Examples:
   kzekamok check accounts.csv
   kzekamok check --limit 20 accounts.csv
-  kzekamok check --format json *.csv > report.json)",
+  kzekamok check --format json *.csv > report.json
+  kzekamok check --format html -o report.html *.csv)",
                            R"(例：
   kzekamok check accounts.csv
   kzekamok check --limit 20 accounts.csv
-  kzekamok check --format json *.csv > report.json)"};
+  kzekamok check --format json *.csv > report.json
+  kzekamok check --format html -o report.html *.csv)"};
+constexpr Text OVER_INPUT = {"--output {1}: the report would take the place of a file to check",
+                             "--output {1}：チェックするファイルには結果を書き込めません"};
 
 }  // namespace
 
@@ -33,8 +41,18 @@ CLI::App* CheckCommand::AddTo(CLI::App& app)
     pCommand->add_option("FILE", m_vecFile, Say(FILE_HELP))->type_name("")->required();
     AddFamilyOption(*pCommand, m_family);
     AddReportOptions(*pCommand, m_report);
+    AddReportOutput(*pCommand, m_report);
     pCommand->footer(Say(EXAMPLES));
     return pCommand;
+}
+
+void CheckCommand::Finish()
+{
+    for (const std::string& strFile : m_vecFile) {
+        std::error_code error;  // a file that isn't there is another one
+        if (std::filesystem::equivalent(strFile, m_report.strOutput, error))
+            throw UsageError(Say(OVER_INPUT, {MakeSafe(m_report.strOutput)}));
+    }
 }
 
 ExitStatus CheckCommand::Run()

@@ -15,6 +15,7 @@ class CheckCommand final : public Command
 {
 public:
     CLI::App* AddTo(CLI::App& app) override;
+    void Finish() override;
     ExitStatus Run() override;
 
 private:

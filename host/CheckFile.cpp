@@ -182,6 +182,8 @@ FileReport FileCheck::Broken() const
         return NotChecked(Say(INCOMPLETE), strInstallation);
     if (const auto strProblem = m_source.TextProblem())
         return NotChecked(Say(TEXT_PROBLEM, {*strProblem}), Say(SAVE_AS_SHIFT_JIS));
+    if (const auto strNul = m_source.NulProblem())
+        return NotChecked(Say(NUL_PROBLEM, {*strNul}), Say(REMOVE_NUL));
     return NotChecked(Say(BROKEN), Say(LOG_ADVICE));
 }
 

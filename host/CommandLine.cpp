@@ -27,15 +27,35 @@ constexpr Text DESCRIPTION = {
     "Checks tax filing CSV files (Shift_JIS) and turns them into MOK documents.",
     "税務申告用のCSVファイル（Shift_JIS）をチェックし、MOK文書に変換します。"};
 
-constexpr Text EXAMPLES = {R"(Examples:
+constexpr Text EXAMPLES = {R"(Check files and convert them:
   kzekamok check accounts.csv
-      Shows each wrong cell with its record, column, label, value, code and message.
-  kzekamok check --format json *.csv > report.json
-      The same for several files as one JSON document.
+      Shows each wrong cell with its record, column, label, value, rule, code and message.
+  kzekamok check --format html accounts.csv > accounts.html
+      The same as a page with the wrong cells marked; json and sarif are for programs.
   kzekamok convert accounts.csv --profile filer.toml -o accounts.mok
       Checks the file and, if it passes, writes the document.
-  kzekamok convert accounts.csv --profile filer.toml --zeimusho-cd 01234 -o accounts.mok
-      An option wins over the profile.
+  kzekamok batch inbox -o outbox --profile filer.toml
+      The same for every CSV file below a folder. Given again it goes on where it was.
+  kzekamok split year.csv -o parts
+      Parts a file with too many records.
+
+Know what a form asks for:
+  kzekamok explain HE70012E
+      What a code means and what to do.
+  kzekamok layout 002
+      What stands in which column; without a type id all of them.
+  kzekamok new 002 -o example.csv
+      An example file that passes.
+  kzekamok rules > rules.json
+      Check items, messages and all procedures for other tools.
+
+Write definition files, set up the shell:
+  kzekamok lint my/KZEkaMok.bundle
+      Finds what is wrong in them, with line and remedy.
+  source <(kzekamok completion bash)
+      Completes commands, options, files and type ids.
+
+Each command has more examples in its own help: kzekamok check --help
 
 Exit status (with several files the highest):
   0  passed, or converted
@@ -49,15 +69,35 @@ Environment:
   KZEKAMOK_BUNDLE  the resource folder, in place of the installed one
   LANG             Japanese if it begins with "ja", else English; --lang wins
   NO_COLOR         no colour, if set and not empty)",
-                           R"(例：
+                           R"(チェックと変換の例：
   kzekamok check accounts.csv
-      エラーのある値を、レコード、項目、項目名、値、コード、説明とともに示します。
-  kzekamok check --format json *.csv > report.json
-      複数のファイルの結果を1つのJSONにまとめます。
+      エラーのある値を、レコード、項目、項目名、値、規則、コード、説明とともに示します。
+  kzekamok check --format html accounts.csv > accounts.html
+      エラーのセルに印を付けたページにします。プログラム向けには json と sarif があります。
   kzekamok convert accounts.csv --profile filer.toml -o accounts.mok
       ファイルをチェックし、合格すれば文書を書き出します。
-  kzekamok convert accounts.csv --profile filer.toml --zeimusho-cd 01234 -o accounts.mok
-      オプションはプロファイルより優先されます。
+  kzekamok batch inbox -o outbox --profile filer.toml
+      フォルダー以下のすべてのCSVファイルを処理します。同じコマンドで続きから再開します。
+  kzekamok split year.csv -o parts
+      レコードの多すぎるファイルを分けます。
+
+様式を調べる例：
+  kzekamok explain HE70012E
+      エラーコードの意味と対処を示します。
+  kzekamok layout 002
+      各項目の内容を示します。申請区分を省略すると一覧を示します。
+  kzekamok new 002 -o example.csv
+      合格する見本のファイルを作ります。
+  kzekamok rules > rules.json
+      チェック項目、メッセージ、すべての手続を、他のツール向けに出力します。
+
+定義ファイルの作成とシェルの設定の例：
+  kzekamok lint my/KZEkaMok.bundle
+      定義ファイルの誤りを、行と直し方とともに示します。
+  source <(kzekamok completion bash)
+      コマンド、オプション、ファイル、申請区分を補完します。
+
+ほかの例は、各コマンドの説明にあります：kzekamok check --help
 
 終了ステータス（複数のファイルでは最も大きいもの）：
   0  合格した、または変換した

@@ -24,9 +24,11 @@ constexpr Placeholder ARGUMENTS[] = {
 
 /// What the values of options stand for.
 constexpr Placeholder OPTION_VALUES[] = {
-    {"DATE", Completed::Nothing},    {"DIR", Completed::Folder},   {"FILE", Completed::AnyFile},
-    {"N", Completed::Nothing},       {"OUT", Completed::Folder},   {"OUT.mok", Completed::Document},
-    {"SECONDS", Completed::Nothing}, {"TEXT", Completed::Nothing}, {"TOML", Completed::AnyFile},
+    {"DATE", Completed::Nothing},   {"DIR", Completed::Folder},
+    {"FILE", Completed::AnyFile},   {"N", Completed::Nothing},
+    {"OUT", Completed::Folder},     {"OUT.mok", Completed::Document},
+    {"REPORT", Completed::AnyFile}, {"SECONDS", Completed::Nothing},
+    {"TEXT", Completed::Nothing},   {"TOML", Completed::AnyFile},
     {"TYPEID", Completed::TypeId},
 };
 

@@ -14,18 +14,24 @@ constexpr Text SUMMARY = {"Writes the script with which a shell completes comman
                           "シェルの入力補完スクリプトを出力します"};
 constexpr Text SHELL_HELP = {"bash or zsh", "bashまたはzsh"};
 constexpr Text FOOTER = {
-    R"(An installed package has the scripts in place. For this session alone:
+    R"(An installed package has the scripts in place.
+
+Examples:
   source <(kzekamok completion bash)
   source <(kzekamok completion zsh)         # behind compinit
-For good:
+      For this shell alone.
   kzekamok completion bash > ~/.local/share/bash-completion/completions/kzekamok
-  kzekamok completion zsh > DIR/_kzekamok   # DIR: a folder of $fpath)",
-    R"(パッケージで導入した場合は設定済みです。今のシェルだけで使うには：
+  kzekamok completion zsh > DIR/_kzekamok   # DIR: a folder of $fpath
+      For good.)",
+    R"(パッケージで導入した場合は設定済みです。
+
+例：
   source <(kzekamok completion bash)
   source <(kzekamok completion zsh)         # compinitの後
-常に使うには：
+      今のシェルだけで使います。
   kzekamok completion bash > ~/.local/share/bash-completion/completions/kzekamok
-  kzekamok completion zsh > DIR/_kzekamok   # DIRは$fpathにあるフォルダー)"};
+  kzekamok completion zsh > DIR/_kzekamok   # DIRは$fpathにあるフォルダー
+      常に使います。)"};
 
 }  // namespace
 

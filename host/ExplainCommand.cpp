@@ -24,7 +24,7 @@ constexpr Text CODE_HELP = {"Code such as HE70012E, or 12 for short; none for al
 constexpr Text FOOTER = {R"(Examples:
   kzekamok explain HE70012E
   kzekamok explain 12 25)",
-                         R"(例:
+                         R"(例：
   kzekamok explain HE70012E
   kzekamok explain 12 25)"};
 constexpr Text REPORTED_BY = {"Reported by the check items: {1}",

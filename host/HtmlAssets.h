@@ -7,5 +7,8 @@ namespace host {
 
 extern const std::string_view REPORT_STYLE;
 extern const std::string_view REPORT_SCRIPT;
+/// SHA-256 in Base64, by which the page names what it may use.
+extern const std::string_view REPORT_STYLE_DIGEST;
+extern const std::string_view REPORT_SCRIPT_DIGEST;
 
 }  // namespace host

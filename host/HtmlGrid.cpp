@@ -140,7 +140,7 @@ void Grid::NoteErrors()
 
 void Grid::Write()
 {
-    m_out << "<div class=\"grid\" role=\"region\" tabindex=\"0\" aria-label=\""
+    m_out << R"(<div class="grid" role="region" tabindex="0" aria-label=")"
           << Say({"Contents of the file", "ファイルの内容"}) << "\">\n";
     std::size_t nNext = 1;
     for (const ReportedForm& form : DistinctForms(m_report.vecForm)) {
@@ -253,7 +253,7 @@ void Grid::WriteCell(std::size_t nRecord, std::size_t nColumn)
     if (it == m_mapCell.end()) {
         m_out << "<td";
         if (DisplayWidth(strValue) > WIDTHS.back())
-            m_out << " class=\"l\" title=\"" << HtmlText(strValue) << '"';
+            m_out << R"( class="l" title=")" << HtmlText(strValue) << '"';
         m_out << '>' << HtmlOwnText(MakeSafeAndShort(strValue, SHOWN_CHARACTERS));
         return;
     }

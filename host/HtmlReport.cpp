@@ -15,7 +15,6 @@
 #include "Language.h"
 #include "ReportWords.h"
 #include "SafeText.h"
-#include "Sha256.h"
 
 namespace host {
 namespace {
@@ -117,7 +116,7 @@ FilePart::FilePart(std::ostream& out,
 
 void FilePart::Write()
 {
-    m_out << "<section class=\"card file\" id=\"f" << m_nFile << "\">\n<h2>"
+    m_out << R"(<section class="card file" id="f)" << m_nFile << "\">\n<h2>"
           << HtmlText(m_report.strFile) << ' ' << Badge(m_report.eOutcome) << "</h2>\n";
     WriteFacts();
     WriteNotices();
@@ -158,7 +157,7 @@ void FilePart::WriteNotices()
         m_out << "<p class=\"notice\">" << HtmlOwnText(strText) << "</p>\n";
     };
     if (!m_report.strProblem.empty())
-        write(m_report.strProblem + (m_report.strAdvice.empty() ? "" : " " + m_report.strAdvice));
+        write(Sentences(m_report.strProblem, m_report.strAdvice));
     if (!m_report.strNote.empty())
         write(m_report.strNote);
     if (m_report.bMoreErrors)
@@ -235,12 +234,12 @@ void FilePart::WriteBars(const std::vector<Bar>& vecBar,
         const Bar& bar = vecBar[n];
         // A bar that is there can be seen.
         const std::size_t nPercent = std::max<std::size_t>(bar.nErrors * 100 / nMost, 1);
-        m_out << "<tr><th scope=\"row\" lang=\"ja\" title=\"" << HtmlOwnText(bar.strTitle)
+        m_out << R"(<tr><th scope="row" lang="ja" title=")" << HtmlOwnText(bar.strTitle)
               << "\"><a href=\"#" << bar.strTarget << "\" data-field=\"" << bar.strField
               << "\" data-value=\"" << HtmlOwnText(bar.strValue) << "\">" << bar.strName
               << "</a></th><td><svg width=\"100%\" height=\"12\" aria-hidden=\"true\">"
                  "<rect width=\""
-              << nPercent << "%\" height=\"12\" rx=\"3\"/></svg></td><td class=\"n\">"
+              << nPercent << R"(%" height="12" rx="3"/></svg></td><td class="n">)"
               << Grouped(bar.nErrors) << "</td></tr>\n";
     }
     m_out << "</table>\n";
@@ -250,14 +249,14 @@ void FilePart::WriteFilter()
 {
     const char* szAll = Say({"all", "すべて"});
     m_out << "<form class=\"filter\" hidden role=\"search\">\n<label>" << Say({"Code", "コード"})
-          << "<select name=\"code\"><option value=\"\">" << szAll << "</option>";
+          << R"(<select name="code"><option value="">)" << szAll << "</option>";
     for (const CodeCount& count : CountByCode(m_report)) {
         const std::string strCode = HtmlText(count.strCode);
         m_out << "<option value=\"" << strCode << "\">" << strCode << " (" << Grouped(count.nErrors)
               << ")</option>";
     }
     m_out << "</select></label>\n<label>" << Say({"Column", "項目"})
-          << "<select name=\"column\"><option value=\"\">" << szAll << "</option>";
+          << R"(<select name="column"><option value="">)" << szAll << "</option>";
     for (std::size_t n = 0; n < m_vecColumn.size(); ++n)
         m_out << "<option value=\"" << n << "\">"
               << ColumnNumbers(m_vecColumn[n].lColumn, m_vecColumn[n].lColumnEnd) << ' '
@@ -266,7 +265,7 @@ void FilePart::WriteFilter()
     m_out << "</select></label>\n<label>" << Say({"Text", "文字列"})
           << "<input type=\"search\" name=\"text\" autocomplete=\"off\"></label>\n";
     if (m_report.pCells)
-        m_out << "<label class=\"check\"><input type=\"checkbox\" name=\"only\"> "
+        m_out << R"(<label class="check"><input type="checkbox" name="only"> )"
               << Say({"only records with errors", "エラーのあるレコードだけ"}) << "</label>\n";
     m_out << "<button type=\"reset\">" << Say({"Show all", "すべて表示"}) << "</button>\n"
           << "<output class=\"shown\" aria-live=\"polite\"></output>\n<p class=\"keys\">"
@@ -286,7 +285,7 @@ void FilePart::WriteErrors()
         WriteGroup(m_vecGroup[n], n);
     const std::size_t nAll = m_report.vecError.size();
     if (m_nListed < nAll)
-        m_out << "<p class=\"notice\" id=\"more" << m_nFile << "\">"
+        m_out << R"(<p class="notice" id="more)" << m_nFile << "\">"
               << Say({"{1} of {2} not listed here (--limit {3})",
                       "{2}のうち{1}件は表示していません（--limit {3}）"},
                      {Grouped(nAll - m_nListed), Count(nAll, ERRORS), Number(m_nListed)})
@@ -297,7 +296,7 @@ void FilePart::WriteGroup(const ErrorGroup& group, std::size_t nGroup)
 {
     const ReportedError& first = m_report.vecError[group.vecError.front()];
     const bool bCell = first.eScope == ErrorScope::Cell;
-    m_out << "<section class=\"group\" id=\"" << GroupId(nGroup) << "\" data-code=\""
+    m_out << R"(<section class="group" id=")" << GroupId(nGroup) << "\" data-code=\""
           << HtmlText(first.entry.strCode) << '"';
     if (bCell)
         m_out << " data-column=\"" << ColumnIndex(first) << '"';
@@ -375,16 +374,16 @@ std::size_t FilePart::ColumnIndex(const ReportedError& error) const
 
 void WriteFileTable(std::ostream& out, const std::vector<FileReport>& vecReport)
 {
-    out << "<div class=\"files\" tabindex=\"0\" role=\"region\" aria-label=\""
+    out << R"(<div class="files" tabindex="0" role="region" aria-label=")"
         << Say({"Files", "ファイル"}) << "\"><table>\n<thead><tr><th scope=\"col\">"
         << Say({"File", "ファイル"}) << "</th><th scope=\"col\">" << Say({"Result", "結果"})
         << "</th><th scope=\"col\">" << Say({"Procedure", "手続"})
-        << "</th><th scope=\"col\" class=\"n\">" << Say({"Records", "レコード"})
-        << "</th><th scope=\"col\" class=\"n\">" << Say({"Errors", "エラー"})
+        << R"(</th><th scope="col" class="n">)" << Say({"Records", "レコード"})
+        << R"(</th><th scope="col" class="n">)" << Say({"Errors", "エラー"})
         << "</th></tr></thead>\n<tbody>\n";
     for (std::size_t n = 0; n < vecReport.size(); ++n) {
         const FileReport& report = vecReport[n];
-        out << "<tr><th scope=\"row\"><a href=\"#f" << n + 1 << "\">" << HtmlText(report.strFile)
+        out << R"(<tr><th scope="row"><a href="#f)" << n + 1 << "\">" << HtmlText(report.strFile)
             << "</a></th><td>" << Badge(report.eOutcome) << "</td><td>"
             << HtmlText(report.strProcedure) << "</td><td class=\"n\">"
             << (report.records ? Grouped(*report.records) : std::string())
@@ -401,7 +400,7 @@ void WriteHead(std::ostream& out, const std::string& strTitle)
         << "\">\n<head>\n<meta charset=\"utf-8\">\n"
            "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; style-src "
            "'sha256-"
-        << Sha256Base64(REPORT_STYLE) << "'; script-src 'sha256-" << Sha256Base64(REPORT_SCRIPT)
+        << REPORT_STYLE_DIGEST << "'; script-src 'sha256-" << REPORT_SCRIPT_DIGEST
         << "'; base-uri 'none'; form-action 'none'\">\n"
            "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
            "<meta name=\"generator\" content=\"kzekamok " KZEKAMOK_VERSION "\">\n<title>"

@@ -22,7 +22,7 @@ constexpr Text FOOTER = {R"(Examples:
   kzekamok layout
   kzekamok layout 002
   kzekamok layout 101 --format html > salaries.html)",
-                         R"(例:
+                         R"(例：
   kzekamok layout
   kzekamok layout 002
   kzekamok layout 101 --format html > salaries.html)"};

@@ -46,7 +46,7 @@ Examples:
   kzekamok new 101 --records 50 --seed 7 -o example.csv)",
     R"(値はすべて架空のもので、文字コードはShift_JISです。書き出す前にチェックします。
 
-例:
+例：
   kzekamok new 002 -o example.csv
   kzekamok new 101 --records 50 --seed 7 -o example.csv)"};
 

@@ -68,10 +68,13 @@ void KeepOnInterruption()
     }
 }
 
-/// What the path leads to, whether that exists or not.
+/// What the path leads to, whether that exists or not. A device or a pipe keeps the path: the links
+/// by which the system shows open files have texts for targets and no paths.
 fs::path FollowLinks(fs::path path)
 {
     std::error_code error;
+    if (fs::is_other(path, error))
+        return path;
     for (int n = 0; n < LINKS_MAX && fs::is_symlink(fs::symlink_status(path, error)); ++n) {
         const fs::path target = fs::read_symlink(path, error);
         if (error)

@@ -16,6 +16,10 @@ constexpr Text FORMAT_HELP = {
 constexpr Text LIMIT_HELP = {"Show at most N errors of a file; counts stay true",
                              "ファイルごとに表示するエラーの最大件数。集計は全件のままです"};
 
+constexpr Text OUTPUT_HELP = {
+    "Write the report to this file, whole or not at all, instead of standard output",
+    "結果を標準出力ではなくこのファイルに書き込みます。途中までの結果は残しません"};
+
 constexpr int LIMIT_MAX = 1'000'000'000;
 
 }  // namespace
@@ -36,6 +40,11 @@ void AddReportOptions(CLI::App& command, ReportOptions& options)
     command.add_option("--limit", options.limit, Say(LIMIT_HELP))
         ->type_name("N")
         ->check(CLI::Range(0, LIMIT_MAX).description(""));
+}
+
+void AddReportOutput(CLI::App& command, ReportOptions& options)
+{
+    command.add_option("-o,--output", options.strOutput, Say(OUTPUT_HELP))->type_name("REPORT");
 }
 
 }  // namespace host

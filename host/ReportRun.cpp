@@ -8,12 +8,18 @@
 #include <utility>
 
 #include "HtmlReport.h"
+#include "Language.h"
 #include "Report.h"
+#include "ReportWords.h"
 #include "SafeText.h"
 #include "SarifReport.h"
+#include "WholeFile.h"
 
 namespace host {
 namespace {
+
+constexpr Text NOT_WRITTEN = {"The report could not be written to {1}: {2}.",
+                              "結果を{1}に書き込めませんでした：{2}。"};
 
 bool WantsColour()
 {
@@ -23,19 +29,15 @@ bool WantsColour()
     return isatty(STDOUT_FILENO) == 1 && (szNoColour == nullptr || *szNoColour == '\0') && !bDumb;
 }
 
-ReportStyle StyleOf(const ReportOptions& options)
+/// \param bOutput  The results go to standard output.
+void Warn(const FileReport& report, bool bOutput)
 {
-    return {options.eFormat == Format::Text && WantsColour(), options.limit};
-}
-
-void Warn(const FileReport& report)
-{
-    const bool bSeen = isatty(STDOUT_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
+    const bool bSeen = bOutput && isatty(STDOUT_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
     if (report.eStatus < ExitStatus::Usage || bSeen)
         return;
     std::cout.flush();
-    std::cerr << "kzekamok: " << MakeSafe(report.strFile) << ": " << report.strProblem << ' '
-              << report.strAdvice << '\n';
+    std::cerr << "kzekamok: " << MakeSafe(report.strFile) << ": "
+              << Sentences(report.strProblem, report.strAdvice) << '\n';
 }
 
 }  // namespace
@@ -48,8 +50,8 @@ ReportRun::ReportRun(const char* szCommand, const ReportOptions& options)
 void ReportRun::Add(FileReport report)
 {
     if (m_options.eFormat == Format::Text) {
-        WriteText(std::cout, report, StyleOf(m_options));
-        Warn(report);
+        WriteText(Out(), report, Style());
+        Warn(report, m_options.strOutput.empty());
         report.vecError.clear();  // they have been told
     }
     if (m_options.eFormat != Format::Html)
@@ -57,22 +59,34 @@ void ReportRun::Add(FileReport report)
     m_vecReport.push_back(std::move(report));
 }
 
-void ReportRun::WriteAll() const
+std::ostream& ReportRun::Out()
 {
-    const ReportStyle style = StyleOf(m_options);
+    return m_options.strOutput.empty() ? std::cout : m_file;
+}
+
+ReportStyle ReportRun::Style() const
+{
+    const bool bColour =
+        m_options.eFormat == Format::Text && m_options.strOutput.empty() && WantsColour();
+    return {bColour, m_options.limit};
+}
+
+void ReportRun::WriteAll()
+{
+    const ReportStyle style = Style();
     switch (m_options.eFormat) {
         case Format::Text:
             if (m_vecReport.size() > 1)
-                WriteTextTotals(std::cout, m_vecReport);
+                WriteTextTotals(Out(), m_vecReport);
             return;
         case Format::Json:
-            WriteJson(std::cout, m_szCommand, m_vecReport, style);
+            WriteJson(Out(), m_szCommand, m_vecReport, style);
             return;
         case Format::Sarif:
-            WriteSarif(std::cout, m_vecReport, style);
+            WriteSarif(Out(), m_vecReport, style);
             return;
         case Format::Html:
-            WriteHtml(std::cout, m_szCommand, m_vecReport, style);
+            WriteHtml(Out(), m_szCommand, m_vecReport, style);
             return;
     }
 }
@@ -82,11 +96,18 @@ ExitStatus ReportRun::Finish()
     WriteAll();
     if (m_options.eFormat != Format::Text)
         for (const FileReport& report : m_vecReport)
-            Warn(report);
+            Warn(report, m_options.strOutput.empty());
     auto eStatus = ExitStatus::Passed;
     for (const FileReport& report : m_vecReport)
         eStatus = Worse(eStatus, report.eStatus);
-    return eStatus;
+    if (m_options.strOutput.empty())
+        return eStatus;
+    const std::string strProblem = WriteWhole(m_options.strOutput, m_file.str());
+    if (strProblem.empty())
+        return eStatus;
+    std::cerr << "kzekamok: "
+              << Say(NOT_WRITTEN, {MakeSafe(m_options.strOutput), MakeSafe(strProblem)}) << '\n';
+    return ExitStatus::NotWritten;
 }
 
 }  // namespace host

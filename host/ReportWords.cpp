@@ -11,6 +11,13 @@ constexpr CountText MORE_ERRORS = {{"more than {1} error", "{1}件を超える�
 
 }  // namespace
 
+std::string Sentences(const std::string& strFirst, const std::string& strSecond)
+{
+    if (strFirst.empty() || strSecond.empty())
+        return strFirst + strSecond;
+    return strFirst + Say({" ", ""}) + strSecond;
+}
+
 std::string Grouped(std::uintmax_t nCount)
 {
     std::string strDigits = std::to_string(nCount);
@@ -83,7 +90,7 @@ std::string PlaceOf(const ReportedError& error)
 std::string ErrorSummary(const FileReport& report)
 {
     const std::size_t nRecords = report.RecordsWithErrors();
-    const std::string strErrors =
+    std::string strErrors =
         Count(report.vecError.size(), report.bMoreErrors ? MORE_ERRORS : ERRORS);
     if (nRecords == 0)
         return strErrors;

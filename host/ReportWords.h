@@ -24,6 +24,9 @@ inline constexpr CountText RECORDS = {{"{1} record", "{1}レコード"},
 inline constexpr CountText FILES = {{"{1} file", "{1}ファイル"}, {"{1} files", "{1}ファイル"}};
 inline constexpr CountText BYTES = {{"{1} byte", "{1}バイト"}, {"{1} bytes", "{1}バイト"}};
 
+/// Two texts that each end with a full stop, as one follows the other. Either may be empty.
+std::string Sentences(const std::string& strFirst, const std::string& strSecond);
+
 /// "2,000"
 std::string Grouped(std::uintmax_t nCount);
 

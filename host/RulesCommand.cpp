@@ -28,7 +28,7 @@ constexpr Text FOOTER = {R"(Examples:
   kzekamok rules > rules.json
   kzekamok rules 002 101 | jq '.procedures[].forms[].items[] | {column, label}'
   kzekamok rules --format markdown --lang ja)",
-                         R"(例:
+                         R"(例：
   kzekamok rules > rules.json
   kzekamok rules 002 101 | jq '.procedures[].forms[].items[] | {column, label}'
   kzekamok rules --format markdown --lang ja)"};

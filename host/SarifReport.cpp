@@ -11,6 +11,7 @@
 #include "Advice.h"
 #include "JsonReport.h"
 #include "Language.h"
+#include "ReportWords.h"
 #include "SafeText.h"
 
 namespace host {
@@ -171,7 +172,7 @@ std::string ResultText(const ReportedError& error)
     else if (error.value)
         strText += Say(VALUE, {MakeSafeAndShort(*error.value, SHOWN_CHARACTERS)});
     if (!error.strHint.empty())
-        strText += " " + error.strHint;
+        strText = Sentences(strText, error.strHint);
     return strText;
 }
 
@@ -239,8 +240,7 @@ void AddNotifications(Json& notifications,
         notifications.push_back(Notification(report, nFile, szId, szLevel, strText));
     };
     if (!report.strProblem.empty())
-        add(OutcomeName(report.eOutcome), "error",
-            report.strProblem + (report.strAdvice.empty() ? "" : " " + report.strAdvice));
+        add(OutcomeName(report.eOutcome), "error", Sentences(report.strProblem, report.strAdvice));
     if (report.bMoreErrors)
         add(EkaMsgTable[HE70022E].szCode, "warning",
             std::string(EkaMsgTable[HE70022E].szText) + " " + AdviceFor(HE70022E));

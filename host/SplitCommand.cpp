@@ -51,7 +51,7 @@ Examples:
     R"(ファイル名はFILE-001.csvのようになり、レコードは元の順に1バイトも変えずに入ります（空行は除きます）。
 分けたファイルは`kzekamok check`と同じようにチェックします。同じ名前のファイルがあれば何も書きません。
 
-例:
+例：
   kzekamok split year.csv -o parts
   kzekamok split year.csv -o parts --records 1000)"};
 

@@ -71,12 +71,10 @@ void WriteError(std::ostream& out, const ReportedError& error, const ReportStyle
         << MessageText(error) << '\n';
     if (!error.strRule.empty())
         out << "    " << Say({"Rule: {1}", "規則：{1}"}, {MakeSafe(error.strRule)}) << '\n';
-    out << "    ";
     // What is known about an argument says all; about a file it says where.
-    if (!error.strHint.empty())
-        out << error.strHint << (error.eScope == ErrorScope::Argument ? '\n' : ' ');
-    if (error.strHint.empty() || error.eScope != ErrorScope::Argument)
-        out << AdviceFor(error.entry.eMessage) << '\n';
+    const bool bHintAlone = error.eScope == ErrorScope::Argument && !error.strHint.empty();
+    out << "    " << Sentences(error.strHint, bHintAlone ? "" : AdviceFor(error.entry.eMessage))
+        << '\n';
 }
 
 void WriteCodeCounts(std::ostream& out, const FileReport& report)

@@ -1,26 +1,16 @@
 #include "WholeFile.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
+
+#include "PendingDocument.h"
+#include "SourceFile.h"
 
 namespace host {
 namespace {
-
-constexpr mode_t NEW_FILE_MODE = 0666;
-
-/// Rights that a new file gets, as the process is set.
-mode_t ModeOfNewFile()
-{
-    const mode_t mask = umask(0);
-    umask(mask);
-    return NEW_FILE_MODE & ~mask;
-}
 
 bool WriteAll(int nFile, std::string_view strBytes)
 {
@@ -38,21 +28,17 @@ bool WriteAll(int nFile, std::string_view strBytes)
 
 std::string WriteWhole(const std::string& strPath, std::string_view strBytes)
 {
-    std::string strTemporary = strPath + ".XXXXXX";
-    const int nFile = mkstemp(strTemporary.data());
+    PendingDocument document(AbsolutePath(strPath));
+    if (std::string strWhy = document.Open(); !strWhy.empty())
+        return strWhy;
+    const int nFile = open(document.Path().c_str(), O_WRONLY | O_CLOEXEC);
     if (nFile < 0)
         return std::strerror(errno);
-    const bool bWritten = WriteAll(nFile, strBytes) && fchmod(nFile, ModeOfNewFile()) == 0;
-    int nError = bWritten ? 0 : errno;
+    int nError = WriteAll(nFile, strBytes) ? 0 : errno;
     // A full disk may show only here.
     if (close(nFile) != 0 && nError == 0)
         nError = errno;
-    if (nError == 0 && std::rename(strTemporary.c_str(), strPath.c_str()) != 0)
-        nError = errno;
-    if (nError == 0)
-        return {};
-    unlink(strTemporary.c_str());
-    return std::strerror(nError);
+    return nError == 0 ? document.Keep() : std::strerror(nError);
 }
 
 }  // namespace host

@@ -17,8 +17,8 @@ struct XmlElement
     std::vector<XmlElement> vecChild;
 
     /// Empty for an attribute that isn't there.
-    const std::string& Attribute(std::string_view strName) const;
-    bool Has(std::string_view strName) const;
+    const std::string& Attribute(std::string_view strAttribute) const;
+    bool Has(std::string_view strAttribute) const;
 };
 
 /// Why a file isn't XML.

@@ -155,7 +155,7 @@ std::string TableHead(std::initializer_list<Text> listTitle)
 
 std::string NumberCell(const std::string& strKey, const std::string& strShown)
 {
-    return "<td class=\"n\" data-key=\"" + strKey + "\">" + strShown + "</td>";
+    return R"(<td class="n" data-key=")" + strKey + R"(">)" + strShown + "</td>";
 }
 
 }  // namespace
@@ -188,33 +188,24 @@ void BatchPage::Add(std::string_view strLine)
     const Json line = Json::parse(strLine, nullptr, /*allow_exceptions=*/false);
     if (!line.is_object())
         return;
-    Row row;
-    std::vector<std::pair<std::string, std::uint64_t>> vecCode;
-    ExitStatus eStatus = ExitStatus::NotChecked;
     try {
-        row.strFile = line.at("file");
-        row.strProcedure = TextOf(line, "procedure");
-        row.strProblem = TextOf(line, "problem");
-        row.eOutcome = FindOutcome(line.at("result"));
-        eStatus = static_cast<ExitStatus>(line.at("status").get<int>());
-        row.nErrors = line.at("counts").at("errors");
-        row.bMoreErrors = line.at("counts").at("moreErrors");
-        row.dSeconds = line.at("batch").at("seconds");
-        if (row.eOutcome == Outcome::Converted)
-            row.strDocument = TextOf(line.at("batch"), "document");
-        const Json& byCode = line.at("counts").at("byCode");
-        row.strCodes = CodesOf(byCode);
-        for (const auto& [strCode, count] : byCode.items())
-            vecCode.emplace_back(strCode, count.get<std::uint64_t>());
-        const Json& errors = line.at("errors");
-        if (!errors.empty() && m_nFilesWithErrors++ < FILES_WITH_ERRORS_SHOWN)
-            for (std::size_t n = 0; n < std::min(errors.size(), ERRORS_SHOWN); ++n)
-                row.strErrors += ErrorHtml(errors[n]);
+        AddFile(line);
     } catch (const Json::exception&) {  // a member is missing or of another type
         return;
     }
+}
+
+void BatchPage::AddFile(const Json& line)
+{
+    // All that may throw comes first, so that a line counts as a whole or not at all.
+    const auto eStatus = static_cast<ExitStatus>(line.at("status").get<int>());
+    const auto mapCode = line.at("counts").at("byCode").get<std::map<std::string, std::uint64_t>>();
+    Row row = ReadRow(line);
+    if (!row.strErrors.empty())
+        ++m_nFilesWithErrors;
+
     m_totals.Add(row.eOutcome, eStatus);
-    for (const auto& [strCode, nErrors] : vecCode) {
+    for (const auto& [strCode, nErrors] : mapCode) {
         m_mapCode[strCode].nErrors += nErrors;
         ++m_mapCode[strCode].nFiles;
     }
@@ -222,6 +213,28 @@ void BatchPage::Add(std::string_view strLine)
     ++procedure.nFiles;
     ++procedure.mapOutcome[row.eOutcome];
     m_vecRow.push_back(std::move(row));
+}
+
+BatchPage::Row BatchPage::ReadRow(const Json& line) const
+{
+    Row row;
+    row.strFile = line.at("file");
+    row.strProcedure = TextOf(line, "procedure");
+    row.strProblem = TextOf(line, "problem");
+    if (const std::string strAdvice = TextOf(line, "advice"); !strAdvice.empty())
+        row.strProblem += " " + strAdvice;
+    row.eOutcome = FindOutcome(line.at("result"));
+    row.nErrors = line.at("counts").at("errors");
+    row.bMoreErrors = line.at("counts").at("moreErrors");
+    row.strCodes = CodesOf(line.at("counts").at("byCode"));
+    row.dSeconds = line.at("batch").at("seconds");
+    if (row.eOutcome == Outcome::Converted)
+        row.strDocument = TextOf(line.at("batch"), "document");
+    const Json& errors = line.at("errors");
+    if (m_nFilesWithErrors < FILES_WITH_ERRORS_SHOWN)
+        for (std::size_t n = 0; n < std::min(errors.size(), ERRORS_SHOWN); ++n)
+            row.strErrors += ErrorHtml(errors[n]);
+    return row;
 }
 
 std::string BatchPage::Html()
@@ -346,7 +359,7 @@ void BatchPage::AppendSlowest(std::string& strHtml) const
     strHtml += "</tbody></table></div></section>\n";
 }
 
-void BatchPage::AppendFiles(std::string& strHtml)
+void BatchPage::AppendFiles(std::string& strHtml) const
 {
     const std::size_t nShown = std::min(m_vecRow.size(), ROWS_MAX);
     strHtml += std::string("<section><h2>") + Say({"Files", "ファイル一覧"}) + "</h2>\n";
@@ -358,48 +371,56 @@ void BatchPage::AppendFiles(std::string& strHtml)
                         "report.json にあります。"},
                        {Number(nShown), Number(m_vecRow.size())}) +
                    "</p>\n";
-    strHtml += std::string("<form id=\"filter\" role=\"search\" hidden><label>") +
+    AppendFilter(strHtml);
+    strHtml += R"(<div class="scroll wide"><table id="files">)"
+               "\n" +
+               TableHead({{"File", "ファイル"},
+                          {"Result", "結果"},
+                          {"Procedure", "手続"},
+                          {"Errors", "エラー数"},
+                          {"Details", "詳細"},
+                          {"Seconds", "秒"}}) +
+               "<tbody>\n";
+    for (std::size_t n = 0; n < nShown; ++n)
+        AppendRow(strHtml, m_vecRow[n]);
+    strHtml += "</tbody></table></div></section>\n";
+}
+
+void BatchPage::AppendFilter(std::string& strHtml) const
+{
+    strHtml += std::string(R"(<form id="filter" role="search" hidden><label>)") +
                Say({"Filter", "絞り込み"}) +
-               " <input type=\"search\" name=\"words\"></label><label>" + Say({"Result", "結果"}) +
-               " <select name=\"outcome\"><option value=\"\">" + Say({"all", "すべて"}) +
+               R"( <input type="search" name="words"></label><label>)" + Say({"Result", "結果"}) +
+               R"( <select name="outcome"><option value="">)" + Say({"all", "すべて"}) +
                "</option>";
     for (const Outcome eOutcome : BATCH_OUTCOMES)
         if (m_totals.Of(eOutcome) > 0)
             strHtml += std::string("<option value=\"") + OutcomeName(eOutcome) + "\">" +
                        Say(OutcomeText(eOutcome)) + "</option>";
-    strHtml +=
-        "</select></label><output id=\"shown\" class=\"soft\"></output></form>\n"
-        "<div class=\"scroll wide\"><table id=\"files\">\n" +
-        TableHead({{"File", "ファイル"},
-                   {"Result", "結果"},
-                   {"Procedure", "手続"},
-                   {"Errors", "エラー数"},
-                   {"Details", "詳細"},
-                   {"Seconds", "秒"}}) +
-        "<tbody>\n";
-    for (std::size_t n = 0; n < nShown; ++n) {
-        const Row& row = m_vecRow[n];
+    strHtml += R"(</select></label><output id="shown" class="soft"></output></form>)";
+    strHtml += '\n';
+}
+
+void BatchPage::AppendRow(std::string& strHtml, const Row& row)
+{
+    strHtml += std::string("<tr data-outcome=\"") + OutcomeName(row.eOutcome) + "\"><td>" +
+               HtmlText(row.strFile) + "</td><td class=\"o " + StyleOf(row.eOutcome) + "\">" +
+               Say(OutcomeText(row.eOutcome)) + "</td><td>" + HtmlText(row.strProcedure) + "</td>" +
+               NumberCell(Number(row.nErrors),
+                          row.nErrors > 0 ? Number(row.nErrors) + (row.bMoreErrors ? "+" : "")
+                                          : std::string()) +
+               "<td>";
+    if (!row.strDocument.empty())
         strHtml +=
-            std::string("<tr data-outcome=\"") + OutcomeName(row.eOutcome) + "\"><td>" +
-            HtmlText(row.strFile) + "</td><td class=\"o " + StyleOf(row.eOutcome) + "\">" +
-            Say(OutcomeText(row.eOutcome)) + "</td><td>" + HtmlText(row.strProcedure) + "</td>" +
-            NumberCell(Number(row.nErrors), row.nErrors > 0
-                                                ? Number(row.nErrors) + (row.bMoreErrors ? "+" : "")
-                                                : std::string()) +
-            "<td>";
-        if (!row.strDocument.empty())
-            strHtml +=
-                "<a href=\"" + Link(row.strDocument) + "\">" + HtmlText(row.strDocument) + "</a>";
-        if (!row.strProblem.empty())
-            strHtml += "<p>" + HtmlOwnText(row.strProblem) + "</p>";
-        if (!row.strErrors.empty())
-            strHtml += "<details><summary>" + HtmlOwnText(row.strCodes) + "</summary><ul>" +
-                       row.strErrors + "</ul></details>";
-        else
-            strHtml += HtmlOwnText(row.strCodes);
-        strHtml += "</td>" + NumberCell(Seconds(row.dSeconds), Seconds(row.dSeconds)) + "</tr>\n";
-    }
-    strHtml += "</tbody></table></div></section>\n";
+            "<a href=\"" + Link(row.strDocument) + "\">" + HtmlText(row.strDocument) + "</a>";
+    if (!row.strProblem.empty())
+        strHtml += "<p>" + HtmlOwnText(row.strProblem) + "</p>";
+    if (!row.strErrors.empty())
+        strHtml += "<details><summary>" + HtmlOwnText(row.strCodes) + "</summary><ul>" +
+                   row.strErrors + "</ul></details>";
+    else
+        strHtml += HtmlOwnText(row.strCodes);
+    strHtml += "</td>" + NumberCell(Seconds(row.dSeconds), Seconds(row.dSeconds)) + "</tr>\n";
 }
 
 }  // namespace host

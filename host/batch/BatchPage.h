@@ -1,6 +1,8 @@
 // The report of a batch as a page.
 #pragma once
 
+#include <nlohmann/json_fwd.hpp>
+
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -43,9 +45,9 @@ private:
         std::string strFile;
         std::string strDocument;  ///< below the page's folder; empty if there is none
         std::string strProcedure;
-        std::string strProblem;
-        std::string strCodes;   ///< "HE70001E ×3, HE70003E"
-        std::string strErrors;  ///< the first ones as HTML; may be empty
+        std::string strProblem;  ///< with what to do about it
+        std::string strCodes;    ///< "HE70001E ×3, HE70003E"
+        std::string strErrors;   ///< the first ones as HTML; may be empty
         Outcome eOutcome = Outcome::NotChecked;
         std::uint64_t nErrors = 0;
         bool bMoreErrors = false;
@@ -62,11 +64,15 @@ private:
         std::map<Outcome, std::size_t> mapOutcome;
     };
 
+    void AddFile(const nlohmann::ordered_json& line);
+    Row ReadRow(const nlohmann::ordered_json& line) const;
     void AppendSummary(std::string& strHtml) const;
     void AppendCodes(std::string& strHtml) const;
     void AppendProcedures(std::string& strHtml) const;
     void AppendSlowest(std::string& strHtml) const;
-    void AppendFiles(std::string& strHtml);
+    void AppendFiles(std::string& strHtml) const;
+    void AppendFilter(std::string& strHtml) const;
+    static void AppendRow(std::string& strHtml, const Row& row);
 
     std::size_t m_nFiles;
     BatchTotals m_totals;

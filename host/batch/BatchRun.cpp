@@ -17,6 +17,7 @@
 #include <system_error>
 #include <utility>
 
+#include "ReportWords.h"
 #include "SafeText.h"
 #include "UsageError.h"
 #include "WholeFile.h"
@@ -436,9 +437,9 @@ void BatchRun::TellEnd() const
     const std::size_t nNow = m_progress ? m_progress->Done() : 0;
     const double dSeconds = std::max(SteadyNow() - m_dStart, 0.001);
     std::cerr << "kzekamok: "
-              << Say({"{1} files in {2}, {3} files/s, processes: {4}",
-                      "{1}件を{2}で処理（毎秒{3}件、プロセス数{4}）"},
-                     {std::to_string(nNow), strTime, RateText(static_cast<double>(nNow) / dSeconds),
+              << Say({"{1} in {2}, {3} files/s, processes: {4}",
+                      "{1}を{2}で処理（毎秒{3}件、プロセス数{4}）"},
+                     {Count(nNow, FILES), strTime, RateText(static_cast<double>(nNow) / dSeconds),
                       std::to_string(m_settings.nWorkers)})
               << '\n';
 }

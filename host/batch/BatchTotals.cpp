@@ -2,6 +2,7 @@
 
 #include <ostream>
 
+#include "ReportWords.h"
 #include "SafeText.h"
 
 namespace host {
@@ -49,14 +50,13 @@ std::size_t BatchTotals::Of(Outcome eOutcome) const
 
 std::string BatchTotals::Line() const
 {
-    std::string strLine = m_nFiles == 1 ? Say({"1 file", "1件"})
-                                        : Say({"{1} files", "{1}件"}, {std::to_string(m_nFiles)});
+    std::string strLine = Count(m_nFiles, FILES);
     const char* szBefore = Say({": ", "："});
     for (const Outcome eOutcome : BATCH_OUTCOMES) {
         if (Of(eOutcome) == 0)
             continue;
         strLine += szBefore + Say({"{1} {2}", "{2} {1}件"},
-                                  {std::to_string(Of(eOutcome)), Say(OutcomeText(eOutcome))});
+                                  {Grouped(Of(eOutcome)), Say(OutcomeText(eOutcome))});
         szBefore = Say({", ", "、"});
     }
     return strLine;

@@ -137,7 +137,7 @@ private:
 
 FileAnswer MakeAnswer(const FileReport& report, const ReportStyle& style)
 {
-    return {report.eOutcome, report.eStatus, report.strProblem,
+    return {report.eOutcome, report.eStatus, report.strProblem + " " + report.strAdvice,
             JsonText(FileToJson(report, style))};
 }
 

@@ -33,7 +33,7 @@ struct FileAnswer
 {
     Outcome eOutcome = Outcome::NotChecked;
     ExitStatus eStatus = ExitStatus::NotChecked;
-    std::string strProblem;  ///< that of the report
+    std::string strProblem;  ///< that of the report, with what to do about it
     std::string strReport;   ///< the report as JSON on one line
 };
 

@@ -4,7 +4,7 @@
 namespace host {
 
 /// Marks a page as one of a batch, so that it may be replaced. Stands near its beginning.
-inline constexpr const char* PAGE_MARK = "<meta name=\"generator\" content=\"kzekamok batch\">";
+inline constexpr const char* PAGE_MARK = R"(<meta name="generator" content="kzekamok batch">)";
 
 /// A style sheet for light and dark, for wide and narrow.
 extern const char* const PAGE_STYLE;

@@ -3,8 +3,8 @@
 
 const WAIT = 120; // milliseconds from the last key in the search field to the search
 
-// The link by which an error or a marked cell is reached.
-const linkOf = (element) => (element.tagName === "A" ? element : element.querySelector("a"));
+// The link by which an error, a marked cell or a marked record is reached; null for other elements.
+const linkOf = (element) => (element.matches("li, td, tr") ? element.querySelector("a") : null);
 
 function reach(link) {
   for (let up = link.parentElement; up; up = up.parentElement)

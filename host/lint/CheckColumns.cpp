@@ -1,5 +1,6 @@
 #include "lint/CheckColumns.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "CText.h"
@@ -25,11 +26,18 @@ constexpr ColumnParameter COLUMN_PARAMETERS[] = {
     {"rangedate_2", "max", YEAR_CELLS}, {"rangedate_3", "value", YEAR_CELLS},
 };
 
+/// Farther numbers say no more, and would overflow when they are reckoned with.
+long InReach(long lNumber)
+{
+    constexpr long NUMBER_MAX = 1'000'000'000;
+    return std::clamp(lNumber, -NUMBER_MAX, NUMBER_MAX);
+}
+
 }  // namespace
 
 long ReadNumber(const XmlElement& element, const char* szAttribute)
 {
-    return CText::ReadLong(element.Attribute(szAttribute).c_str());
+    return InReach(CText::ReadLong(element.Attribute(szAttribute).c_str()));
 }
 
 long CellsRead(const LintCheck& check, const std::string& strTypeId)
@@ -104,12 +112,12 @@ void AddCheckedColumns(const LintForm& form,
             for (const long lListed :
                  CText::SplitNumbers(check.pElement->Attribute(parameter.szAttribute)))
                 for (long lCell = 0; lCell < parameter.lCells; ++lCell)
-                    setColumn.insert(lListed + lCell);
+                    setColumn.insert(InReach(lListed) + lCell);
     if (check.pKeyword->strKeyword == "age") {
         const auto vecToken = CText::SplitNumbers(check.pElement->Attribute("value"));
         if (!vecToken.empty())
             for (long lCell = 0; lCell < DATE_CELLS; ++lCell)
-                setColumn.insert(vecToken.front() + lCell);
+                setColumn.insert(InReach(vecToken.front()) + lCell);
     }
 }
 

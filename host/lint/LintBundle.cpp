@@ -7,10 +7,10 @@
 #include <set>
 #include <utility>
 
-#include "CText.h"
 #include "FamilyFolder.h"
 #include "FormDefinition.h"
 #include "KZCMacOSNative.h"
+#include "lint/CheckColumns.h"
 
 namespace host {
 namespace {
@@ -89,18 +89,13 @@ constexpr LintTexts SHADOWED_PARENT = {
      "idがreportIdと同じです。これを親とするitemは、このitemではなくreportの下に入ります。"},
     {"Give the item another id.", "別のidにしてください。"}};
 
-long Number(const XmlElement& element, const char* szAttribute)
-{
-    return CText::ReadLong(element.Attribute(szAttribute).c_str());
-}
-
 LintCheck ReadCheck(const XmlElement& element, long lItemColumn, bool bOuter)
 {
     LintCheck check;
     check.pElement = &element;
     check.pKeyword = FindCatalogueItem(element.Attribute("id"));
     check.bOuter = bOuter;
-    const long lColumn = Number(element, "column");
+    const long lColumn = ReadNumber(element, "column");
     check.bDropped = bOuter && lColumn <= 0;
     check.lColumn = lColumn > 0 ? lColumn : lItemColumn;
     if (!bOuter)
@@ -118,10 +113,10 @@ LintItem ReadItem(const XmlElement& element, bool bChecks)
     item.strId = element.Attribute("id");
     item.strParent = element.Attribute("parent");
     item.strGeneration = element.Attribute("generation");
-    item.lColumn = std::max(0L, Number(element, "column"));
-    item.lStartRow = Number(element, "startRow");
-    item.lEndRow = Number(element, "endRow");
-    item.lLastRecord = Number(element, "lastRecord");
+    item.lColumn = std::max(0L, ReadNumber(element, "column"));
+    item.lStartRow = ReadNumber(element, "startRow");
+    item.lEndRow = ReadNumber(element, "endRow");
+    item.lLastRecord = ReadNumber(element, "lastRecord");
     if (bChecks)
         for (const XmlElement& child : element.vecChild)
             if (child.strName == "valid")
@@ -135,12 +130,12 @@ LintForm ReadForm(const LintFile& file, const XmlElement& element)
     form.pElement = &element;
     form.strTypeId = file.eFamily == Family::Base ? element.Attribute("id") : file.strTypeId;
     form.strReportId = element.Attribute("reportId");
-    form.lColumnNum = Number(element, "columnNum");
+    form.lColumnNum = ReadNumber(element, "columnNum");
     if (file.eFamily != Family::Base) {
-        form.lStartRow = Number(element, "startRow");
-        form.lEndRow = Number(element, "endRow");
-        form.lStepRow = Number(element, "stepRow");
-        form.lLastRecord = Number(element, "lastRecord");
+        form.lStartRow = ReadNumber(element, "startRow");
+        form.lEndRow = ReadNumber(element, "endRow");
+        form.lStepRow = ReadNumber(element, "stepRow");
+        form.lLastRecord = ReadNumber(element, "lastRecord");
     }
     for (const XmlElement& child : element.vecChild)
         if (child.strName == "item")

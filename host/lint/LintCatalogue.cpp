@@ -12,7 +12,7 @@ constexpr std::array<const char*, 9> BASE_TYPE_IDS = {"001", "002", "003", "004"
                                                       "006", "007", "008", "009"};
 
 constexpr LintTexts DIFFERENT = {
-    {"{1} is \"{2}\"; the library's catalogue has \"{3}\" for type id {4}.",
+    {R"({1} is "{2}"; the library's catalogue has "{3}" for type id {4}.)",
      "{1}は「{2}」ですが、ライブラリの一覧では申請区分{4}は「{3}」です。"},
     {"Write \"{3}\".", "「{3}」と書いてください。"}};
 constexpr LintTexts UNKNOWN_REPORT = {
@@ -24,7 +24,7 @@ constexpr LintTexts ABSENT_REPORT = {
      "一覧にある申請区分{2}の「{1}」のreportがありません。"},
     {"Add it.", "追加してください。"}};
 constexpr LintTexts OUT_OF_ORDER = {
-    {"The report \"{1}\" stands before \"{2}\"; the catalogue has them the other way round.",
+    {R"(The report "{1}" stands before "{2}"; the catalogue has them the other way round.)",
      "report「{1}」が「{2}」の前にありますが、一覧では逆の順です。"},
     {"Change their order.", "順を入れ替えてください。"}};
 constexpr LintTexts MISSING_REPORT = {

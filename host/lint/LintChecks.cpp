@@ -90,7 +90,7 @@ constexpr Text NOT_EIGHT = {"it has other than eight characters and isn't used",
 constexpr Text TOO_FEW = {"{5} of at least 5 words are there", "5語以上必要ですが{5}語です"};
 constexpr Text TOO_MANY = {"there are {5} words, and at most 6 are read",
                            "{5}語ありますが、読まれるのは6語までです"};
-constexpr Text NOT_DAYS = {"the sixth word \"{5}\" isn't \"days\" and has no effect",
+constexpr Text NOT_DAYS = {R"(the sixth word "{5}" isn't "days" and has no effect)",
                            "6語目の「{5}」は\"days\"でなく、効果がありません"};
 constexpr Text NO_DAY = {"month {5} and day {6} are no day of every year",
                          "{5}月{6}日はどの年にもある日ではありません"};
@@ -167,7 +167,7 @@ public:
         };
         const std::string strWhat = say(what);
         const std::string strWanted = say(wanted);
-        constexpr Text GIVEN = {"\"{1}\": {2}=\"{3}\": {4}.", "「{1}」の{2}=\"{3}\"：{4}。"};
+        constexpr Text GIVEN = {R"("{1}": {2}="{3}": {4}.)", "「{1}」の{2}=\"{3}\"：{4}。"};
         constexpr Text ABSENT = {"\"{1}\" has no {2}: {4}.", "「{1}」に{2}がありません（{4}）。"};
         constexpr Text ADVICE = {"How {2} is written: {4}.", "{2}の書き方：{4}。"};
         m_report.Add(

@@ -1,6 +1,7 @@
 // Columns of items and checks.
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <set>
 
 #include "lint/CheckColumns.h"
@@ -69,7 +70,7 @@ constexpr LintTexts ERROR_ROW = {
      "レコード{1}のあるファイルはありません（最大{2}件）。"},
     {"Write the number of a record, from 1.", "レコードの番号を1から数えて書いてください。"}};
 
-std::string Text10(long lNumber)
+std::string Number(long lNumber)
 {
     return std::to_string(lNumber);
 }
@@ -100,7 +101,7 @@ private:
         const bool bKnownLimit = m_file.HasChecks() && m_form.lColumnNum > 0;
         if (bKnownLimit && item.lColumn > m_form.lColumnNum)
             Add(LintRule::ColumnBeyond, item.pElement, ITEM_BEYOND,
-                {Text10(item.lColumn), Text10(m_form.lColumnNum)});
+                {Number(item.lColumn), Number(m_form.lColumnNum)});
         // In a tree that could not be built whole nobody knows who has children.
         if (m_form.bTooDeep)
             return;
@@ -132,8 +133,8 @@ private:
             if (!bPart || child.lColumn == lFirst + lPlace)
                 continue;
             Add(LintRule::DateGroup, child.pElement, NOT_ADJACENT,
-                {Text10(child.lColumn), Text10(lFirst + lPlace - 1), Text10(lFirst),
-                 Text10(lFirst + (lWidth == 2 ? 1 : 3))});
+                {Number(child.lColumn), Number(lFirst + lPlace - 1), Number(lFirst),
+                 Number(lFirst + (lWidth == 2 ? 1 : 3))});
         }
     }
 
@@ -179,7 +180,7 @@ private:
             return;
         Add(LintRule::ColumnBeyond, check.pElement,
             lCells == 1 ? CHECK_COLUMN_BEYOND : CHECK_BEYOND,
-            {Text10(lColumn), Text10(m_form.lColumnNum), strKeyword, Text10(lLast)});
+            {Number(lColumn), Number(m_form.lColumnNum), strKeyword, Number(lLast)});
     }
 
     void LookAtErrorPlace(const LintCheck& check)
@@ -194,13 +195,13 @@ private:
             const long lFirst = ReadNumber(*check.pElement, "errcolumn");
             if (lFirst < 1 || lFirst + MORE > m_form.lColumnNum)
                 Add(LintRule::ErrorPlaceBeyond, check.pElement, ERROR_COLUMN,
-                    {Text10(lFirst), Text10(lFirst + MORE), Text10(m_form.lColumnNum)});
+                    {Number(lFirst), Number(lFirst + MORE), Number(m_form.lColumnNum)});
         }
         if (place == ErrorPlace::DateOrCell && !check.pElement->Attribute("errrow").empty()) {
             const long lRow = ReadNumber(*check.pElement, "errrow");
             if (lRow < 1 || lRow > m_file.MaxRecord())
                 Add(LintRule::ErrorPlaceBeyond, check.pElement, ERROR_ROW,
-                    {Text10(lRow), Text10(m_file.MaxRecord())});
+                    {Number(lRow), Number(m_file.MaxRecord())});
         }
     }
 
@@ -212,17 +213,16 @@ private:
             for (const LintCheck& check : item.vecCheck)
                 AddCheckedColumns(m_form, item, check, setUsed);
         }
-        const auto isUsed = [&setUsed](long lColumn) { return setUsed.contains(lColumn); };
-        constexpr long MOST = 10000;
-        for (long lColumn = 1; lColumn <= std::min(m_form.lColumnNum, MOST); ++lColumn) {
-            if (isUsed(lColumn))
-                continue;
-            long lLast = lColumn;
-            while (lLast < m_form.lColumnNum && !isUsed(lLast + 1))
-                ++lLast;
-            Add(LintRule::UnusedColumn, m_form.pElement, lLast > lColumn ? UNUSED_RUN : UNUSED,
-                {Text10(lColumn), Text10(lLast)});
-            lColumn = lLast;
+        // The columns between two that are used, and behind the last one.
+        setUsed.insert(m_form.lColumnNum + 1);
+        for (auto it = setUsed.lower_bound(1); it != setUsed.end(); ++it) {
+            const long lFirst = *it + 1;
+            const long lLast =
+                std::min(m_form.lColumnNum,
+                         std::next(it) != setUsed.end() ? *std::next(it) - 1 : m_form.lColumnNum);
+            if (lFirst <= lLast)
+                Add(LintRule::UnusedColumn, m_form.pElement, lLast > lFirst ? UNUSED_RUN : UNUSED,
+                    {Number(lFirst), Number(lLast)});
         }
     }
 

@@ -5,6 +5,7 @@
 #include <tuple>
 
 #include "lint/CheckColumns.h"
+#include "lint/LintPages.h"
 #include "lint/LintTopics.h"
 #include "lint/LintWriting.h"
 
@@ -48,32 +49,13 @@ constexpr LintTexts UNCHECKED = {
      "このitemを書くレコードの項目{1}を、{2}は確かめていません。どんな値も文書に入ります。"},
     {"Add checks for it there.", "そこにチェックを追加してください。"}};
 constexpr LintTexts OTHER_REPORT = {
-    {"Record {1} of {2} is checked as \"{3}\" ({4}) and written as \"{5}\".",
+    {R"(Record {1} of {2} is checked as "{3}" ({4}) and written as "{5}".)",
      "{2}件中レコード{1}は「{3}」として確かめられ（{4}）、「{5}」として書かれます。"},
     {"Let the rows of both files agree.", "両方のファイルの行を合わせてください。"}};
 constexpr LintTexts OTHER_ORDER = {
     {"The file has the reports {1}; {2} has {3}.",
      "このファイルのreportは{1}ですが、{2}では{3}です。"},
     {"Let both have the same reports in the same order.", "同じreportを同じ順にしてください。"}};
-constexpr LintTexts PAGE_NOT_OPENED = {
-    {"With {2} records, record {1} is written while no page is open: the record that should open "
-     "one writes nothing.",
-     "{2}件のとき、レコード{1}はページが開かないまま書かれます。"
-     "ページを開くレコードで何も書かれないためです。"},
-    {"Let an item write something at the first record of each page, whatever it is.",
-     "各ページの最初のレコードで必ず何かが書かれるようにしてください。"}};
-constexpr LintTexts PAGE_OPENED_TWICE = {
-    {"With {2} records, a page opens at record {1} before the last one is closed.",
-     "{2}件のとき、レコード{1}で前のページが閉じないうちに次のページが開きます。"},
-    {"Let every item write something at the last record of each page, and look at startRow, endRow "
-     "and stepRow.",
-     "各ページの最後のレコードで何かが書かれるようにし、startRow・endRow・stepRowを確認してください"
-     "。"}};
-constexpr LintTexts PAGE_NOT_CLOSED = {
-    {"With {1} records, the last page is never closed: its last record writes nothing.",
-     "{1}件のとき、最後のページが閉じません。最後のレコードで何も書かれないためです。"},
-    {"Let an item write something at the report's last record.",
-     "reportの最後のレコードで何かが書かれるようにしてください。"}};
 constexpr LintTexts UNFILTERED_GENERATION = {
     {"The item is for \"{1}\" records, but is written for others too: the group above it writes "
      "all "
@@ -137,13 +119,14 @@ private:
         // Fewer records than forms are refused before anything is written.
         const std::size_t nForms =
             m_pChecks != nullptr ? m_pChecks->vecForm.size() : m_document.vecForm.size();
+        PageTurner turner(m_document, m_report);
         for (const long lCount : SampleCounts(m_document, static_cast<long>(nForms))) {
             ForEachWrittenRecord(m_document, lCount, [&](const LintForm& form, long lRecord) {
                 if (IsSampleRecord(m_document, lRecord, lCount))
                     WriteOne(form, "", lRecord, lCount);
-                TurnPages(form, lRecord, lCount);
+                turner.Turn(form, lRecord, lCount);
             });
-            ClosePage(lCount);
+            turner.Finish(lCount);
         }
         if (m_pChecks != nullptr && !m_pChecks->vecForm.empty())
             CompareReports();
@@ -159,7 +142,7 @@ private:
         if (!m_document.IsMulti()) {
             for (const std::size_t nItem : vecOpen)
                 TellOpen(form, form.vecItem[nItem], lRecord, lCount);
-        } else if (OpensPage(form, lRecord, lCount)) {
+        } else if (OpensPage(m_document, form, lRecord, lCount)) {
             writer.WriteHead();
             NoteHead(form, writer.Written(), lCount);
             if (!vecOpen.empty() && !writer.Open().empty())
@@ -168,86 +151,6 @@ private:
         }
         if (m_pChecks != nullptr)
             CompareRecord(form, lRecord, lCount);
-    }
-
-    /// Where the trailer begins, counted from the end; 0 if there is none.
-    static long TrailerRow(const LintForm& form)
-    {
-        long lTrailer = 0;
-        for (const LintItem& item : form.vecItem)
-            if (item.lLastRecord == 1)
-                lTrailer = std::min(lTrailer, item.lStartRow);
-        return lTrailer;
-    }
-
-    bool OpensPage(const LintForm& form, long lRecord, long lCount) const
-    {
-        if (form.lStartRow == 0 || lRecord == form.lStartRow)
-            return true;
-        const long lBehind = lRecord - form.lStartRow;
-        if (form.lStepRow == 0 || form.lStartRow >= lRecord || lBehind % form.lStepRow != 0)
-            return false;
-        const long lTrailer = TrailerRow(form);
-        return !m_document.IsMulti() ||
-               (form.lEndRow != 0 && (lTrailer == 0 || RowFromFront(lTrailer, lCount) > lRecord));
-    }
-
-    bool ClosesPage(const LintForm& form, long lRecord, long lCount) const
-    {
-        const bool bMulti = m_document.IsMulti();
-        const long lEnd = bMulti ? RowFromFront(form.lEndRow, lCount) : form.lEndRow;
-        if (form.lEndRow == 0 || lRecord == lEnd || lRecord == lCount)
-            return true;
-        const long lBehind = lRecord - form.lStartRow;
-        if (form.lStartRow == 0 || form.lStepRow <= 0 || form.lStartRow >= lRecord ||
-            lBehind % form.lStepRow != form.lStepRow - 1)
-            return false;
-        const long lTrailer = TrailerRow(form);
-        return !bMulti || lTrailer == 0 || RowFromFront(lTrailer, lCount) - 1 > lRecord;
-    }
-
-    /// Opens and closes the pages of one record as the writers do.
-    void TurnPages(const LintForm& form, long lRecord, long lCount)
-    {
-        if (&form != m_pPageForm) {
-            ClosePage(lCount);
-            m_pPageForm = &form;
-        }
-        LintWriter writer(form, "", lCount);
-        writer.WriteRecord(lRecord);
-        const bool bBody = !writer.Written().empty();
-        // The last record closes a page of many records even if it writes nothing itself.
-        if (!bBody && !(m_document.IsMulti() && lRecord == lCount))
-            return;
-        if (OpensPage(form, lRecord, lCount)) {
-            if (m_bPageOpen)
-                TellPage(form, PAGE_OPENED_TWICE, lRecord, lCount);
-            m_bPageOpen = true;
-        } else if (!m_bPageOpen) {
-            TellPage(form, PAGE_NOT_OPENED, lRecord, lCount);
-        }
-        if (ClosesPage(form, lRecord, lCount))
-            m_bPageOpen = false;
-    }
-
-    /// No record of the form follows.
-    void ClosePage(long lCount)
-    {
-        if (m_bPageOpen)
-            TellPage(*m_pPageForm, PAGE_NOT_CLOSED, lCount, lCount);
-        m_bPageOpen = false;
-        m_pPageForm = nullptr;
-    }
-
-    void TellPage(const LintForm& form, const LintTexts& texts, long lRecord, long lCount)
-    {
-        const LintPlace place = form.At(m_document.strName);
-        // Rows and steps that can't be have been told already.
-        if (!m_setPage.insert(&form).second ||
-            m_report.HasError(place.strFile, place.lLine, place.lLine))
-            return;
-        m_report.Add(LintRule::BrokenPage, place, texts,
-                     {std::to_string(lRecord), std::to_string(lCount)});
     }
 
     void NoteWritten(const LintForm& form,
@@ -434,9 +337,6 @@ private:
     std::set<ItemKey> m_setUnfiltered;
     std::set<ItemKey> m_setOpen;
     std::set<const LintForm*> m_setOther;
-    std::set<const LintForm*> m_setPage;
-    const LintForm* m_pPageForm = nullptr;  ///< whose pages are being turned
-    bool m_bPageOpen = false;
 };
 
 }  // namespace

@@ -110,14 +110,14 @@ constexpr LintTexts UNREAD_VALUE = {
      "種別{1}のitemは「value」を読みません。読むのはIdRefだけです。"},
     {"Remove it; it has no effect.", "削除してください。効果がありません。"}};
 constexpr LintTexts UNREAD_BY_KEYWORD = {
-    {"\"{1}\" isn't read by the check \"{2}\".", "チェック「{2}」は「{1}」を読みません。"},
+    {R"("{1}" isn't read by the check "{2}".)", "チェック「{2}」は「{1}」を読みません。"},
     {"Remove it; it has no effect. The check reads: {3}.",
      "削除してください。効果がありません。このチェックが読むもの：{3}。"}};
 constexpr LintTexts BAD_NUMBER = {{"{1}=\"{2}\" isn't a whole number: it is read as {3}.",
                                    "{1}=\"{2}\"は整数ではありません。{3}と読まれます。"},
                                   {"Write digits only.", "数字だけを書いてください。"}};
 constexpr LintTexts BAD_FLAG = {
-    {"{1}=\"{2}\" counts as off; only \"{3}\" switches it on.",
+    {R"({1}="{2}" counts as off; only "{3}" switches it on.)",
      "{1}=\"{2}\"はオフとみなされます。オンになるのは\"{3}\"だけです。"},
     {"Write \"{3}\", or remove the attribute.", "\"{3}\"と書くか、属性を削除してください。"}};
 constexpr LintTexts MISSING_ATTRIBUTE = {

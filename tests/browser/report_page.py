@@ -217,6 +217,12 @@ class ReportPageTest(unittest.TestCase):
         self.assertEqual(ways, ["c1-3-9", "c1-3-5", "c1-7-5", "c1-20-5", "c1-7-5", "c1-7-6",
                                 "c1-7-5"])
 
+    def test_link_to_a_file_shows_its_head(self):
+        page = self.page(report("right.csv", "wrong.csv"), fragment="#f2")
+        self.wait(page)
+        top = page.eval("document.querySelector('#f2').getBoundingClientRect().top")
+        self.assertTrue(0 <= top < 100, top)
+
     def test_keys_mean_nothing_while_one_types(self):
         page = self.page()
         page.press("/")

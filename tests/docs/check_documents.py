@@ -13,7 +13,13 @@ block, or with a blank line between, tells where the block comes from; paths cou
                                   the block are notes, and a line of "…" stands for anything.
     <!-- run -->                  lines "$ COMMAND" and what they print. The commands of a document
                                   run in one shell, in a folder that has docs/, resources/ and
-                                  samples/, with KZEKAMOK as kzekamok.
+                                  samples/, with KZEKAMOK as kzekamok and scripts/kzekamok. A line
+                                  of "…" stands for any lines, "…" in a line for anything there.
+
+With KZEKAMOK what GENERATED names is compared with what the program writes, too.
+
+NAME.ja.md is NAME.md in Japanese: it has the same marked blocks, runs the same commands (in
+Japanese) and has as many headings of each level.
 """
 
 import os
@@ -34,6 +40,8 @@ CODE = re.compile(r"^```.*?^```$|`[^`\n]*`", re.MULTILINE | re.DOTALL)
 LINK = re.compile(r"\]\(([^)\s]+)\)")
 HEADING = re.compile(r"^#+ (.+)$", re.MULTILINE)
 END_OF_COMMAND = "-- end of command --"
+# Documents that the program writes, with the arguments for it.
+GENERATED = {"docs/check-items.md": ["rules", "--format", "markdown", "--lang", "en"]}
 
 
 def documents():
@@ -115,7 +123,22 @@ def commands(block):
         yield command, "".join(lines).strip("\n")
 
 
-def run_problems(blocks, program):
+def is_printed(expected, actual):
+    """A "…" of the document stands for what is left out."""
+    parts = re.split(r"(^…\n?|…)", expected, flags=re.MULTILINE)
+    pattern = "".join({"…\n": "(?:.*\n)*", "…": ".*"}.get(part) or re.escape(part)
+                      for part in parts)
+    if expected.endswith("\n…"):
+        pattern = pattern[: -len(".*")] + "(?:.*\n?)*"
+    return re.fullmatch(pattern, actual) is not None
+
+
+def language(document):
+    """The environment that makes kzekamok speak the document's language."""
+    return {"LC_CTYPE": "C.UTF-8", "LANG": "ja" if document.name.endswith(".ja.md") else "C"}
+
+
+def run_problems(document, blocks, program):
     """Runs the commands of a document and compares what they print."""
     wanted = [pair for block in blocks for pair in commands(block)]
     script = "".join(f"{command}echo '{END_OF_COMMAND}'\n" for command, _ in wanted)
@@ -123,22 +146,51 @@ def run_problems(blocks, program):
         work = Path(folder)
         for name in ("docs", "resources", "samples"):
             (work / name).symlink_to(ROOT / name)
-        (work / "bin").mkdir()
-        (work / "bin" / "kzekamok").symlink_to(Path(program).resolve())
-        environment = dict(os.environ, LC_ALL="C.UTF-8", HOME=folder,
+        for name in ("bin", "scripts"):
+            (work / name).mkdir()
+            (work / name / "kzekamok").symlink_to(Path(program).resolve())
+        environment = dict(os.environ, **language(document), HOME=folder,
                            PATH=f"{work / 'bin'}:{os.environ['PATH']}")
-        environment.pop("KZEKAMOK_BUNDLE", None)
+        for name in ("KZEKAMOK_BUNDLE", "LC_ALL", "LC_MESSAGES"):
+            environment.pop(name, None)
         run = subprocess.run(["bash"], input=script, cwd=work, env=environment, encoding="utf-8",
                              stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
     printed = run.stdout.split(END_OF_COMMAND + "\n")
+    if len(printed) != len(wanted) + 1:
+        yield "not every command came to its end"
     for (command, expected), actual in zip(wanted, printed):
-        if actual.strip("\n") != expected:
+        if not is_printed(expected, actual.strip("\n")):
             yield f"$ {command}expected:\n{expected}\nprinted:\n{actual}"
+
+
+def generated_problems(program):
+    for name, arguments in GENERATED.items():
+        written = subprocess.run([program, *arguments], stdout=subprocess.PIPE, check=True).stdout
+        if written.decode("utf-8") != read(ROOT / name):
+            yield f"{name} is not what the program writes: kzekamok {' '.join(arguments)} > {name}"
+
+
+def outline(text):
+    """What a translation has in common with the document."""
+    blocks = MARK.findall(text)
+    return {
+        "marked blocks": [block[:3] for block in blocks],
+        "commands": [command for kind, _, _, block in blocks if kind == "run"
+                     for command, _ in commands(block)],
+        "headings": re.findall(r"^#+(?= )", CODE.sub("", text), re.MULTILINE),
+    }
+
+
+def translation_problems(document):
+    original = outline(read(document.with_name(document.name.replace(".ja.md", ".md"))))
+    for what, value in outline(read(document)).items():
+        if value != original[what]:
+            yield f"other {what} than in the original:\n  {value}\n  {original[what]}"
 
 
 def main():
     program = sys.argv[1] if sys.argv[1:] else None
-    problems = []
+    problems = list(generated_problems(program)) if program else []
     count = 0
     for document in documents():
         name = document.relative_to(ROOT)
@@ -152,7 +204,9 @@ def main():
                                for kind, source, _, block in blocks if kind != "run"))
         runs = [block for kind, _, _, block in blocks if kind == "run"]
         if program and runs:
-            found += run_problems(runs, program)
+            found += run_problems(document, runs, program)
+        if name.name.endswith(".ja.md"):
+            found += translation_problems(document)
         problems += [f"{name}: {problem}" for problem in found]
     if not count:
         problems.append("no document has a marked code block")

@@ -8,7 +8,6 @@
 #include "HtmlAssets.h"
 #include "HtmlText.h"
 #include "ReportCases.h"
-#include "Sha256.h"
 
 namespace host {
 namespace {
@@ -60,8 +59,8 @@ TEST(HtmlReportTest, PolicyAllowsTheOneStyleAndTheOneScriptAlone)
 {
     const std::string strPage = Page({RefusedReport()});
     EXPECT_THAT(strPage, HasSubstr("content=\"default-src 'none'; style-src 'sha256-" +
-                                   Sha256Base64(REPORT_STYLE) + "'; script-src 'sha256-" +
-                                   Sha256Base64(REPORT_SCRIPT) +
+                                   std::string(REPORT_STYLE_DIGEST) + "'; script-src 'sha256-" +
+                                   std::string(REPORT_SCRIPT_DIGEST) +
                                    "'; base-uri 'none'; form-action 'none'\""));
     EXPECT_THAT(strPage, HasSubstr("<style>" + std::string(REPORT_STYLE) + "</style>"));
     EXPECT_THAT(strPage, HasSubstr("<script>" + std::string(REPORT_SCRIPT) + "</script>"));

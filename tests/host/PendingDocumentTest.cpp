@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
@@ -129,6 +130,28 @@ TEST_F(PendingDocumentTest, DeviceIsWrittenToItself)
     EXPECT_EQ(document.Path(), "/dev/null");
     EXPECT_EQ(document.Keep(), "");
     EXPECT_EQ(document.Size(), 0U);
+}
+
+TEST_F(PendingDocumentTest, LinkToADeviceIsWrittenThrough)
+{
+    fs::create_symlink("/dev/null", m_folder.Path("a.mok"));
+    PendingDocument document(m_folder.Path("a.mok"));
+    EXPECT_EQ(document.Open(), "");
+    EXPECT_EQ(document.Path(), m_folder.Path("a.mok"));
+    EXPECT_EQ(document.Keep(), "");
+    EXPECT_EQ(m_folder.Names(), Names{"a.mok"});
+}
+
+TEST_F(PendingDocumentTest, OpenPipeOfTheProcessIsWrittenThroughItsLink)
+{
+    std::array<int, 2> pipe{};
+    ASSERT_EQ(::pipe(pipe.data()), 0);
+    const std::string strPath = "/dev/fd/" + std::to_string(pipe[1]);
+    PendingDocument document(strPath);
+    EXPECT_EQ(document.Open(), "");
+    EXPECT_EQ(document.Path(), strPath);
+    close(pipe[0]);
+    close(pipe[1]);
 }
 
 TEST_F(PendingDocumentTest, PipeIsWrittenToItself)

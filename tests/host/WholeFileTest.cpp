@@ -41,6 +41,50 @@ TEST(WholeFileTest, ExistingFileIsReplaced)
     EXPECT_EQ(folder.Read("a.csv"), "new");
 }
 
+TEST(WholeFileTest, ReplacedFileKeepsItsRights)
+{
+    const TempFolder folder;
+    folder.Write("a.csv", "old");
+    ASSERT_EQ(chmod(folder.Path("a.csv").c_str(), 0600), 0);
+    EXPECT_EQ(WriteWhole(folder.Path("a.csv"), "new"), "");
+    struct stat status = {};
+    ASSERT_EQ(stat(folder.Path("a.csv").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST(WholeFileTest, LinkStaysAndItsTargetIsReplaced)
+{
+    const TempFolder folder;
+    folder.Write("real.csv", "old");
+    std::filesystem::create_symlink("real.csv", folder.Path("a.csv"));
+    EXPECT_EQ(WriteWhole(folder.Path("a.csv"), "new"), "");
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.Path("a.csv")));
+    EXPECT_EQ(folder.Read("real.csv"), "new");
+}
+
+TEST(WholeFileTest, DeviceIsWrittenToAndNotReplaced)
+{
+    const TempFolder folder;
+    std::filesystem::create_symlink("/dev/null", folder.Path("null"));
+    EXPECT_EQ(WriteWhole(folder.Path("null"), "gone"), "");
+    EXPECT_EQ(WriteWhole("/dev/null", "gone"), "");
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    EXPECT_EQ(NamesIn(folder), std::vector<std::string>{"null"});
+}
+
+TEST(WholeFileTest, FullDeviceIsTold)
+{
+    EXPECT_EQ(WriteWhole("/dev/full", "x"), "No space left on device");
+}
+
+TEST(WholeFileTest, LongestNameThatTheSystemTakesCanBeWritten)
+{
+    const TempFolder folder;
+    const std::string strName(255, 'a');
+    EXPECT_EQ(WriteWhole(folder.Path(strName), "x"), "");
+    EXPECT_EQ(NamesIn(folder), std::vector<std::string>{strName});
+}
+
 TEST(WholeFileTest, FileThatCannotBeWrittenToItsEndLeavesWhatWasThere)
 {
     const TempFolder folder;

@@ -93,12 +93,12 @@ echo 'not for a batch' >in/readme.txt
 run batch in -o out4 -j 4 "${filer[@]}"
 expect_status 3 "a batch with files that can't be checked"
 expect_whole out4/report.json 1000 "a thousand files"
-expect_in out "1000 files: " "the summary counts all files"
+expect_in out "1,000 files: " "the summary counts all files"
 expect_in out "4 not checked" "the summary counts the files that weren't checked"
 expect_in out "in/utf8.csv: " "the summary names a file that wasn't checked"
 expect_in err "links to folders not followed: 1" "a link to a folder is told"
 expect_in err ".txt files left aside: 1" "a text file is told"
-expect_equal "$(tail -n 1 err | grep -c '1000 files in .* files/s, processes: 4')" 1 "the last line"
+expect_equal "$(tail -n 1 err | grep -c '1,000 files in .* files/s, processes: 4')" 1 "the last line"
 expect_equal "$(grep -c $'\r' err)" 0 "no progress where nobody watches"
 expect_equal "$(count '"result":"not_checked"' out4/report.json)" 4 "files not checked in the report"
 expect_equal "$(count '"result":"converted"' out4/report.json)" "$(find out4 -name '*.mok' | wc -l)" \
@@ -170,10 +170,27 @@ expect_whole out4/report.json 996 "after the files are mended"
 run batch few -o few1 "${filer[@]}" --daihyo-nm 別人
 expect_in err "60 files in" "another field does all files again"
 run batch few -o few1 "${filer[@]}" --daihyo-nm 別人 --lang ja
-expect_in out "60件：" "the summary in Japanese"
+expect_in out "60ファイル：" "the summary in Japanese"
 expect_in few1/index.html '<html lang="ja">' "the page in Japanese"
 run batch few -o few1 "${filer[@]}" --fresh -q
 expect_in err "60 files in" "--fresh does all files again"
+
+# --- progress, where somebody watches ---
+
+watched() {
+    TERM=$1 script -qec "$kzekamok batch few -o watched --check-only --fresh $2" /dev/null |
+        tr '\r' '\n' >out
+    status=${PIPESTATUS[0]}
+}
+watched xterm ""
+expect_status 1 "a watched batch"
+expect_in out " of 60 files" "progress is shown on a terminal"
+expect_in out "60 files in " "the last line on a terminal"
+for quiet in "xterm -q" "dumb"; do
+    watched $quiet
+    expect_not_in out " of 60 files" "no progress with $quiet"
+    expect_in out "60 files in " "the last line with $quiet"
+done
 
 # --- check alone ---
 
@@ -195,16 +212,16 @@ wait_for_lines died/report.json 10
 victim=$(worker)
 kill -STOP "$victim"
 sleep 0.5
-kill -SEGV "$victim"
+kill -ABRT "$victim"
 kill -CONT "$victim"
 finish_batch
 expect_status 3 "a worker that dies"
 expect_whole died/report.json 300 "a worker that dies"
-expect_equal "$(count 'ended by SIGSEGV' died/report.json)" 1 "the file of a worker that dies"
-expect_in out "ended by SIGSEGV" "a worker that dies is told"
+expect_equal "$(count 'ended by SIGABRT' died/report.json)" 1 "the file of a worker that dies"
+expect_in out "ended by SIGABRT" "a worker that dies is told"
 run batch many -o died -j 1 "${filer[@]}"
 expect_status 1 "the file of a worker that died is tried again"
-expect_in err "1 files in" "the file of a worker that died is tried again"
+expect_in err "1 file in" "the file of a worker that died is tried again"
 
 start many -o hung -j 1 --timeout 5 "${filer[@]}"
 wait_for_lines hung/report.json 10
@@ -239,6 +256,7 @@ done
 
 start many -o killed -j 2 "${filer[@]}"
 wait_for_lines killed/report.json 20
+kill -STOP "$batch"
 run batch many -o killed "${filer[@]}"
 expect_status 2 "two batches in one folder"
 expect_in err "another batch is at work" "two batches in one folder"
@@ -331,7 +349,7 @@ expect_in out "1 converted, 1 not written" "a document whose folder can't be mad
 rm blocked/sub
 run batch deep -o blocked "${filer[@]}"
 expect_status 0 "a document is written once it can be"
-expect_in err "1 files in" "a document is written once it can be"
+expect_in err "1 file in" "a document is written once it can be"
 
 (ulimit -f 60 && "$kzekamok" batch many -o full -j 2 "${filer[@]}" >out 2>err)
 status=$?

@@ -1,6 +1,6 @@
 # What bash and zsh offer for a command line.
+zsh_driver=$(dirname "$(readlink -f "$0")")/complete.zsh
 source "$(dirname "$0")/support.bash" "$1"
-zsh_driver=$(cd "$(dirname "$0")" && pwd)/complete.zsh
 
 # Runs the program under its own name.
 mkdir bin
@@ -114,11 +114,16 @@ COMP_CWORD=2
 _kzekamok
 expect_equal "${COMPREPLY[*]}" '--format=json' "bash: the option and its value in one word"
 
-# Every option that a command's help tells is offered.
+# Every option that a command's help tells is offered, and the help has examples.
 for command in ${commands//|/ }; do
     run "$command" --help
     told=$(sed -n 's/^  \(-[^ ]*\).*/\1/p' out | tr ',' '\n' | LC_ALL=C sort | paste -sd '|')
     expect_equal "$(offered "kzekamok $command -")" "$told" "options of $command"
+    expect_in out 'xamples:' "$command --help has examples"
+    run "$command" --help --lang ja
+    expect_in out '例：' "$command --help has examples in Japanese"
+    run --help
+    expect_in out "kzekamok $command " "--help has an example of $command"
 done
 
 finish

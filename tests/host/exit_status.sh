@@ -145,6 +145,10 @@ expect_in out "UTF-8" "a UTF-8 file is recognised"
 run check torn.csv
 not_checked "a file with a lone lead byte"
 expect_in out "line 3 " "a file with a lone lead byte tells its line"
+{ printf '\0'; cat pass.csv; } >nul.csv
+run check nul.csv
+expect_status 3 "NUL byte before everything"
+expect_in out "there is a NUL byte in line 1 (byte 1)" "NUL byte before everything"
 { cat pass.csv; printf '002,\0,x\r\n'; } >nul.csv
 run check nul.csv
 expect_status 3 "a file with a NUL byte"

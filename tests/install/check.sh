@@ -31,7 +31,7 @@ expect_equal "$(soname "$strLibrary/libKZEkaMok.so.2")" libKZEkaMok.so.2 "name o
 [ -L "$strLibrary/libKZEkaMok.so" ] || fail "the link for the linker is missing"
 diff -r "$strRoot/resources/KZEkaMok.bundle" "$strPrefix/share/KZEkaMok/KZEkaMok.bundle" ||
     fail "the resource folder isn't the installed one"
-for strFile in LICENSE README.md CHANGELOG.md; do
+for strFile in LICENSE README.md README.ja.md CHANGELOG.md; do
     cmp "$strRoot/$strFile" "$strPrefix/share/doc/KZEkaMok/$strFile" || fail "$strFile"
 done
 
