@@ -687,11 +687,12 @@ TEST(LintLoadTest, TreeTooDeepForTheLibraryIsALoadFailure)
     std::string strParent = "GEZ52000";
     for (int nLevel = 0; nLevel < LEVELS; ++nLevel) {
         const std::string strId = "L" + std::to_string(nLevel);
-        strItems += "<item type=\"TAG\" id=\"" + strId + "\" parent=\"" + strParent + "\"/>\n";
+        strItems.append(R"(<item type="TAG" id=")").append(strId);
+        strItems.append(R"(" parent=")").append(strParent).append("\"/>\n");
         strParent = strId;
     }
-    strItems +=
-        R"(<item type="Normal" id="E" parent=")" + strParent + "\" column=\"2\" label=\"x\"/>";
+    strItems.append(R"(<item type="Normal" id="E" parent=")").append(strParent);
+    strItems.append(R"(" column="2" label="x"/>)");
     folder.Edit({LINT_BASE, R"(<item type="IdRef")", strItems + R"(<item type="IdRef")"});
     EXPECT_EQ(Brief(folder.Lint({"002"})),
               std::vector<std::string>{"load-failure KZEkaDefine.xml:3"});
