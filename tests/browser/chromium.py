@@ -36,14 +36,13 @@ class Browser:
             os.dup2(spare[0], 3)
             os.dup2(spare[1], 4)
 
+        # The pages are ours, and containers often don't let a sandbox be made.
         command = [
-            find(), "--headless=new", "--remote-debugging-pipe", "--no-first-run",
+            find(), "--headless=new", "--no-sandbox", "--remote-debugging-pipe", "--no-first-run",
             "--disable-gpu", "--disable-dev-shm-usage", "--disable-extensions",
             "--disable-background-networking", "--disable-component-update",
             "--user-data-dir=" + self._folder.name, "about:blank",
         ]
-        if os.geteuid() == 0:
-            command.insert(1, "--no-sandbox")
         self._process = subprocess.Popen(
             command, preexec_fn=connect, close_fds=False, stdin=subprocess.DEVNULL,
             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
