@@ -67,7 +67,8 @@ Exit status (with several files the highest):
 
 Environment:
   KZEKAMOK_BUNDLE  the resource folder, in place of the installed one
-  LANG             Japanese if it begins with "ja", else English; --lang wins
+  LANG             Japanese if it begins with "ja", else English; LC_ALL and LC_MESSAGES
+                   come first, and --lang wins
   NO_COLOR         no colour, if set and not empty)",
                            R"(チェックと変換の例：
   kzekamok check accounts.csv
@@ -109,7 +110,8 @@ Environment:
 
 環境変数：
   KZEKAMOK_BUNDLE  インストールされたものの代わりに使うリソースフォルダー
-  LANG             "ja" で始まれば日本語、それ以外は英語。--lang が優先されます
+  LANG             "ja" で始まれば日本語、それ以外は英語。LC_ALL と LC_MESSAGES が先に、
+                   --lang が最優先で使われます
   NO_COLOR         空でなければ色を付けません)"};
 constexpr Text SEE_HELP = {"kzekamok: {1}\nRun `kzekamok --help` to see how it is used.\n",
                            "kzekamok：{1}\n使い方は `kzekamok --help` で見られます。\n"};

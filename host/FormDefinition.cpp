@@ -16,6 +16,8 @@ namespace {
 constexpr const char* BASE_FILE = "KZEkaDefine.xml";
 constexpr const char* LABEL_SEPARATOR = " / ";
 constexpr long BASE_MAX_RECORD = 5000;
+/// Of a form; what a definition says beyond that is a mistake that must not cost all memory.
+constexpr long COLUMNS_MAX = 10'000;
 constexpr int TYPE_ID_MAX = 999;
 
 long ReadNumber(const XmlElement& element, const char* szAttribute)
@@ -104,7 +106,7 @@ FormDefinition ReadForm(const XmlElement& element)
     form.strReportId = element.Attribute("reportId");
     form.strReportVR = element.Attribute("reportVR");
     form.strLabel = element.Attribute("label");
-    form.lColumnNum = ReadNumber(element, "columnNum");
+    form.lColumnNum = std::clamp(ReadNumber(element, "columnNum"), 0L, COLUMNS_MAX);
     form.lStartRow = ReadNumber(element, "startRow");
     form.lEndRow = ReadNumber(element, "endRow");
     form.bLastRecord = ReadNumber(element, "lastRecord") != 0;

@@ -6,7 +6,9 @@
 #include "CatalogueText.h"
 #include "CheckWords.h"
 #include "DetailTable.h"
+#include "HtmlText.h"
 #include "Language.h"
+#include "SafeText.h"
 
 namespace host {
 namespace {
@@ -59,28 +61,12 @@ std::string Joined(const std::vector<std::string>& vecText, const char* szSepara
     return strJoined;
 }
 
-/// Characters that mean something in the text of HTML or in a table of Markdown, as entities.
+/// The text for HTML and for a table of Markdown: nothing in it is markup, and nothing hidden.
 std::string Escaped(const std::string& strText)
 {
-    std::string strEscaped;
-    for (const char c : strText) {
-        switch (c) {
-            case '&':
-                strEscaped += "&amp;";
-                break;
-            case '<':
-                strEscaped += "&lt;";
-                break;
-            case '>':
-                strEscaped += "&gt;";
-                break;
-            case '|':
-                strEscaped += "&#124;";
-                break;
-            default:
-                strEscaped += c;
-        }
-    }
+    std::string strEscaped = HtmlText(strText);
+    for (std::size_t n = 0; (n = strEscaped.find('|', n)) != std::string::npos;)
+        strEscaped.replace(n, 1, "&#124;");
     return strEscaped;
 }
 
@@ -225,9 +211,9 @@ void WriteLayoutCsv(std::ostream& out, const Procedures& vecProcedure)
 void WriteProcedureList(std::ostream& out, const Procedures& vecProcedure)
 {
     for (const ProcedureDefinition* pProcedure : vecProcedure)
-        out << pProcedure->strTypeId << "  " << pProcedure->strProcId << "  "
-            << FamilyName(pProcedure->eFamily) << "  " << pProcedure->vecForm.front().strLabel
-            << '\n';
+        out << MakeSafe(pProcedure->strTypeId) << "  " << MakeSafe(pProcedure->strProcId) << "  "
+            << FamilyName(pProcedure->eFamily) << "  "
+            << MakeSafe(pProcedure->vecForm.front().strLabel) << '\n';
 }
 
 }  // namespace host

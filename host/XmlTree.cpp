@@ -46,11 +46,12 @@ public:
                       const XMLCh* const qname,
                       const xercesc::Attributes& attrs) override
     {
+        m_lLastLine = static_cast<long>(m_pLocator->getLineNumber());
         if (m_vecOpen.size() >= MAX_DEPTH)
             throw Unreadable{"elements are nested too deep"};
         XmlElement element;
         element.strName = XMLChToChar(qname).Get();
-        element.lLine = static_cast<long>(m_pLocator->getLineNumber());
+        element.lLine = m_lLastLine;
         for (XMLSize_t n = 0; n < attrs.getLength(); ++n)
             element.mapAttribute.emplace(XMLChToChar(attrs.getQName(n)).Get(),
                                          XMLChToChar(attrs.getValue(n)).Get());
@@ -74,6 +75,7 @@ public:
                   const XMLCh* const /*publicId*/,
                   const XMLCh* const /*systemId*/) override
     {
+        m_lLastLine = static_cast<long>(m_pLocator->getLineNumber());
         throw Unreadable{NO_DOCTYPE, true};
     }
 
@@ -91,19 +93,18 @@ public:
 
     std::optional<XmlElement> TakeRoot() { return std::move(m_root); }
     long PrologLine() const { return m_lPrologLine; }
-    long Line() const
-    {
-        return m_pLocator != nullptr ? static_cast<long>(m_pLocator->getLineNumber()) : 0;
-    }
+    /// Where the last element began; 0 before the root.
+    long LastLine() const { return m_lLastLine; }
 
 private:
     void NoteProlog()
     {
         if (m_lPrologLine == 0 && m_vecOpen.empty() && !m_root)
-            m_lPrologLine = Line();
+            m_lPrologLine = static_cast<long>(m_pLocator->getLineNumber());
     }
 
     const xercesc::Locator* m_pLocator = nullptr;
+    long m_lLastLine = 0;  ///< kept, as the locator looks at what is gone when parse has thrown
     long m_lPrologLine = 0;
     std::vector<XmlElement> m_vecOpen;
     std::optional<XmlElement> m_root;
@@ -159,9 +160,9 @@ void Parse(const std::string& strBytes, XmlFile& file)
         file.problem = {XMLChToChar(exception.getMessage()).Get(),
                         static_cast<long>(exception.getLineNumber()), false};
     } catch (const xercesc::XMLException& exception) {
-        file.problem = {XMLChToChar(exception.getMessage()).Get(), builder.Line(), false};
+        file.problem = {XMLChToChar(exception.getMessage()).Get(), builder.LastLine(), false};
     } catch (const Unreadable& reason) {
-        file.problem = {reason.szMessage, builder.Line(), reason.bDoctype};
+        file.problem = {reason.szMessage, builder.LastLine(), reason.bDoctype};
     }
 }
 

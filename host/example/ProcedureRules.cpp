@@ -74,6 +74,8 @@ ProcedureRules MakeProcedureRules(const ProcedureDefinition& definition)
     procedure.strProcId = definition.strProcId;
     procedure.nMaxRecords = static_cast<std::size_t>(definition.lMaxRecord);
     for (const FormDefinition& form : definition.vecForm) {
+        if (form.lColumnNum < 1)
+            throw std::runtime_error(definition.strProcId + ": a form has no columns");
         FormRules rules = MakeFormRules(definition, form);
         rules.bHasGenerations = definition.eFamily == Family::Base;
         rules.bQuoted = definition.eFamily == Family::CrossBorder;

@@ -199,5 +199,46 @@ TEST(FormDefinitionBundleTest, FolderIsTheOneThatTheLibraryFinds)
     EXPECT_EQ(definitions.TypeIds(Family::Base), std::vector<std::string>({"003"}));
 }
 
+struct ColumnsCase
+{
+    const char* szName;
+    const char* szGiven;
+    long lTaken;
+};
+
+class ColumnNumberTest : public testing::TestWithParam<ColumnsCase>
+{};
+
+TEST_P(ColumnNumberTest, IsOneThatMemoryHolds)
+{
+    const TempFolder folder;
+    folder.Write("KZEkaDefine.xml", std::string("<define><report id=\"001\" columnNum=\"") +
+                                        GetParam().szGiven + "\"/></define>");
+    EXPECT_EQ(Definitions(folder.Path()).Find("001")->vecForm.front().lColumnNum,
+              GetParam().lTaken);
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers,
+                         ColumnNumberTest,
+                         testing::Values(ColumnsCase{"None", "0", 0},
+                                         ColumnsCase{"Negative", "-1", 0},
+                                         ColumnsCase{"Most", "10000", 10000},
+                                         ColumnsCase{"OneTooMany", "10001", 10000},
+                                         ColumnsCase{"Huge", "2000000000", 10000}),
+                         [](const auto& info) { return std::string(info.param.szName); });
+
+TEST(DeepDefinitionTest, ElementsNestedTooDeepAreToldWithTheLine)
+{
+    const TempFolder folder;
+    std::string strText = "<define>\n";
+    for (int n = 0; n < 100'000; ++n)
+        strText += "<item>\n";
+    folder.Write("KZEkaDefine.xml", strText);
+    const XmlFile file = ReadXmlFile(folder.Path("KZEkaDefine.xml"));
+    EXPECT_FALSE(file.root.has_value());
+    EXPECT_EQ(file.problem.strMessage, "elements are nested too deep");
+    EXPECT_EQ(file.problem.lLine, 101);
+}
+
 }  // namespace
 }  // namespace host

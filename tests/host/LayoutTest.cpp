@@ -123,5 +123,45 @@ TEST(LayoutBundleTest, EveryColumnOfTheShippedFormsHasALabel)
                     EXPECT_NE(column.strLabel, "") << strTypeId << " column " << column.lColumn;
 }
 
+class HostileLabelTest : public testing::Test
+{
+protected:
+    HostileLabelTest()
+    {
+        m_folder.Write("KZEkaDefine.xml",
+                       "<define><report id=\"001\" columnNum=\"1\" procId=\"PGE5010\" "
+                       "label=\"&lt;/title&gt;&lt;script&gt;&#10;&#x9b;31m&#x202e;\"/></define>");
+    }
+
+    std::vector<const ProcedureDefinition*> Procedures() const
+    {
+        return {m_definitions.Find("001")};
+    }
+
+private:
+    TempFolder m_folder;
+    Definitions m_definitions{m_folder.Path()};
+};
+
+TEST_F(HostileLabelTest, PageAndTableShowItAndDoNotObeyIt)
+{
+    for (const auto pWrite : {WriteLayoutHtml, WriteLayoutMarkdown}) {
+        std::ostringstream out;
+        pWrite(out, Procedures());
+        EXPECT_NE(out.str().find("Type 001: &lt;/title&gt;&lt;script&gt;\\n\\u{9b}31m\\u{202e}"),
+                  std::string::npos)
+            << out.str();
+        EXPECT_EQ(out.str().find("<script"), std::string::npos);
+        EXPECT_EQ(out.str().find("\xc2\x9b"), std::string::npos);
+    }
+}
+
+TEST_F(HostileLabelTest, ListShowsItInItsLine)
+{
+    std::ostringstream out;
+    WriteProcedureList(out, Procedures());
+    EXPECT_EQ(out.str(), "001  PGE5010  base  </title><script>\\n\\u{9b}31m\\u{202e}\n");
+}
+
 }  // namespace
 }  // namespace host
