@@ -28,6 +28,7 @@ struct AttributeRow
     bool bNumber = false;
 };
 
+/// The base family's nodes read the steps and repeated heads of items, too, though without effect.
 constexpr auto ATTRIBUTES = std::to_array<AttributeRow>({
     {"report", "id", BASE},
     {"report", "columnNum", BASE | CHECKS, true},
@@ -47,10 +48,10 @@ constexpr auto ATTRIBUTES = std::to_array<AttributeRow>({
     {"item", "generation", ALL},
     {"item", "startRow", BASE | DOCUMENT, true},
     {"item", "endRow", BASE | DOCUMENT, true},
-    {"item", "stepRow", 0, true},
+    {"item", "stepRow", BASE, true},
     {"item", "value", ALL},
     {"item", "lastRecord", BASE | DOCUMENT, true},
-    {"item", "repeatTopTag", DOCUMENT},
+    {"item", "repeatTopTag", BASE | DOCUMENT},
     {"item", "zeroSuppress", ALL},
     {"item", "label", ALL},
     {"valid", "id", ALL},
