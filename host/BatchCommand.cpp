@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cmath>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -89,6 +90,8 @@ constexpr Text FOLDER_OR_LIST = {"give either a folder or --files-from",
 constexpr Text NUL_WITHOUT_LIST = {"-0 is for --files-from", "-0 は --files-from と使います"};
 constexpr Text NO_FOLDER = {"{1}: this is no folder", "{1}：フォルダーではありません"};
 constexpr Text NO_LIST = {"--files-from {1}: {2}", "--files-from {1}：{2}"};
+constexpr Text NO_TIME = {"--timeout: nan is no number of seconds",
+                          "--timeout：nan は秒数ではありません"};
 constexpr Text OUTPUT_NOT_UTF8 = {"--output {1}: the path has to be UTF-8",
                                   "--output {1}：パスはUTF-8にしてください"};
 
@@ -155,6 +158,8 @@ void BatchCommand::Finish()
         throw UsageError(Say(FOLDER_OR_LIST));
     if (m_bNul && m_strList.empty())
         throw UsageError(Say(NUL_WITHOUT_LIST));
+    if (std::isnan(m_settings.dTimeout))  // which is in every range
+        throw UsageError(Say(NO_TIME));
     std::error_code error;
     if (!m_strFolder.empty() && !fs::is_directory(m_strFolder, error))
         throw UsageError(Say(NO_FOLDER, {MakeSafe(m_strFolder)}));

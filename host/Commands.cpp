@@ -22,16 +22,9 @@ std::unique_ptr<Command> Make()
 
 /// The one place where a subcommand is made known. In the order of the help.
 constexpr std::unique_ptr<Command> (*COMMANDS[])() = {
-    Make<CheckCommand>,
-    Make<ConvertCommand>,
-    Make<BatchCommand>,
-    Make<ExplainCommand>,
-    Make<LayoutCommand>,
-    Make<RulesCommand>,
-    Make<NewCommand>,
-    Make<SplitCommand>,
-    Make<LintCommand>,
-    Make<CompletionCommand>,
+    Make<CheckCommand>,  Make<ConvertCommand>,    Make<BatchCommand>, Make<ExplainCommand>,
+    Make<LayoutCommand>, Make<RulesCommand>,      Make<NewCommand>,   Make<SplitCommand>,
+    Make<LintCommand>,   Make<CompletionCommand>,
 };
 
 }  // namespace

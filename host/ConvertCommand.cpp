@@ -4,6 +4,9 @@
 
 #include <CLI/CLI.hpp>
 
+#include <filesystem>
+#include <system_error>
+
 #include "FamilyOption.h"
 #include "Language.h"
 #include "ReportRun.h"
@@ -14,6 +17,9 @@
 namespace host {
 namespace {
 
+constexpr Text OUTPUT_IS_INPUT = {
+    "--output {1} is the CSV file itself. Name another file.",
+    "--output {1}はCSVファイル自身です。別のファイルを指定してください。"};
 constexpr Text SUMMARY = {"Checks a CSV file and writes its MOK document",
                           "CSVファイルをチェックし、MOK文書を書き出します"};
 constexpr Text FILE_HELP = {"CSV file (.csv, .CSV, .txt, .TXT)",
@@ -99,6 +105,10 @@ CLI::App* ConvertCommand::AddTo(CLI::App& app)
 void ConvertCommand::Finish()
 {
     RequireMokEnding(m_strOutput);
+    // A link may lead to the file that is read.
+    std::error_code error;
+    if (std::filesystem::equivalent(m_strFile, m_strOutput, error))
+        throw UsageError(Say(OUTPUT_IS_INPUT, {MakeSafe(m_strOutput)}));
     m_fields = m_filer.Read();
     m_options.bRefuseForeignOptions = true;
 }

@@ -77,7 +77,7 @@ struct FileReport
     std::string strAdvice;                ///< what to do about strProblem
     std::string strNote;                  ///< something to know beside the errors; may be empty
     std::optional<WrittenDocument> document;  ///< of a dry run: the one that would be written
-    std::shared_ptr<const CsvCells> pCells;  ///< null if the file couldn't be read
+    std::shared_ptr<const CsvCells> pCells;   ///< null if the file couldn't be read
     std::vector<ReportedForm> vecForm;  ///< in the order of the file; empty if the form is unknown
 
     /// Distinct records that have an error of their own.

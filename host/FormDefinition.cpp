@@ -16,13 +16,17 @@ namespace {
 constexpr const char* BASE_FILE = "KZEkaDefine.xml";
 constexpr const char* LABEL_SEPARATOR = " / ";
 constexpr long BASE_MAX_RECORD = 5000;
-/// Of a form; what a definition says beyond that is a mistake that must not cost all memory.
-constexpr long COLUMNS_MAX = 10'000;
 constexpr int TYPE_ID_MAX = 999;
 
 long ReadNumber(const XmlElement& element, const char* szAttribute)
 {
     return CText::ReadLong(element.Attribute(szAttribute).c_str());
+}
+
+/// 0 if there is none.
+long ReadColumn(const XmlElement& element, const char* szAttribute)
+{
+    return std::clamp(ReadNumber(element, szAttribute), 0L, COLUMNS_MAX);
 }
 
 void AppendLabel(std::string& strLabels, const std::string& strLabel)
@@ -46,8 +50,8 @@ CheckDefinition ReadCheck(const XmlElement& element, long lItemColumn)
     check.strMessage = element.Attribute("message");
     check.strErrColumn = element.Attribute("errcolumn");
     check.strErrRow = element.Attribute("errrow");
-    check.lColumn = ReadNumber(element, "column");
-    if (check.lColumn <= 0)
+    check.lColumn = ReadColumn(element, "column");
+    if (check.lColumn == 0)
         check.lColumn = lItemColumn;
     check.lLine = element.lLine;
     for (const XmlElement& child : element.vecChild)
@@ -64,7 +68,7 @@ ItemDefinition ReadItem(const XmlElement& element)
     item.strParent = element.Attribute("parent");
     item.strLabel = element.Attribute("label");
     item.strGeneration = element.Attribute("generation");
-    item.lColumn = std::max(0L, ReadNumber(element, "column"));
+    item.lColumn = ReadColumn(element, "column");
     item.lLine = element.lLine;
     for (const XmlElement& child : element.vecChild)
         if (child.strName == "valid")
@@ -106,7 +110,7 @@ FormDefinition ReadForm(const XmlElement& element)
     form.strReportId = element.Attribute("reportId");
     form.strReportVR = element.Attribute("reportVR");
     form.strLabel = element.Attribute("label");
-    form.lColumnNum = std::clamp(ReadNumber(element, "columnNum"), 0L, COLUMNS_MAX);
+    form.lColumnNum = ReadColumn(element, "columnNum");
     form.lStartRow = ReadNumber(element, "startRow");
     form.lEndRow = ReadNumber(element, "endRow");
     form.bLastRecord = ReadNumber(element, "lastRecord") != 0;

@@ -13,6 +13,9 @@
 
 namespace host {
 
+/// Of a form; what a definition says beyond that is a mistake that must not cost all memory.
+inline constexpr long COLUMNS_MAX = 10'000;
+
 /// A `valid` or an `outer` element.
 struct CheckDefinition
 {

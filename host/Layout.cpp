@@ -6,7 +6,6 @@
 #include "CatalogueText.h"
 #include "CheckWords.h"
 #include "DetailTable.h"
-#include "HtmlText.h"
 #include "Language.h"
 #include "SafeText.h"
 
@@ -61,12 +60,29 @@ std::string Joined(const std::vector<std::string>& vecText, const char* szSepara
     return strJoined;
 }
 
-/// The text for HTML and for a table of Markdown: nothing in it is markup, and nothing hidden.
+/// The text for an element of HTML and for a table of Markdown: nothing in it is markup or hidden.
+/// Quotes stay, as they mean nothing there.
 std::string Escaped(const std::string& strText)
 {
-    std::string strEscaped = HtmlText(strText);
-    for (std::size_t n = 0; (n = strEscaped.find('|', n)) != std::string::npos;)
-        strEscaped.replace(n, 1, "&#124;");
+    std::string strEscaped;
+    for (const char c : MakeSafe(strText)) {
+        switch (c) {
+            case '&':
+                strEscaped += "&amp;";
+                break;
+            case '<':
+                strEscaped += "&lt;";
+                break;
+            case '>':
+                strEscaped += "&gt;";
+                break;
+            case '|':
+                strEscaped += "&#124;";
+                break;
+            default:
+                strEscaped += c;
+        }
+    }
     return strEscaped;
 }
 

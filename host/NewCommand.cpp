@@ -76,10 +76,15 @@ void Complain(const std::string& strWhat)
 class WorkFolder
 {
 public:
-    WorkFolder() : m_strPath((fs::temp_directory_path() / "kzekamok-XXXXXX").string())
+    WorkFolder()
     {
-        if (mkdtemp(m_strPath.data()) == nullptr)
-            throw UsageError(Say(NO_WORK_FOLDER, {MakeSafe(fs::temp_directory_path().string())}));
+        std::error_code error;
+        fs::path folder = fs::temp_directory_path(error);
+        if (error && std::getenv("TMPDIR") != nullptr)
+            folder = std::getenv("TMPDIR");
+        m_strPath = (folder / "kzekamok-XXXXXX").string();
+        if (error || mkdtemp(m_strPath.data()) == nullptr)
+            throw UsageError(Say(NO_WORK_FOLDER, {MakeSafe(folder.string())}));
     }
     ~WorkFolder()
     {
@@ -142,7 +147,8 @@ ExitStatus NewCommand::Run()
     const ProcedureDefinition* pProcedure = definitions.Find(m_strTypeId);
     if (pProcedure == nullptr)
         throw UsageError(Say(UNKNOWN_TYPE_ID, {MakeSafe(m_strTypeId)}));
-    if (!m_strOutput.empty() && fs::exists(fs::symlink_status(m_strOutput)))
+    std::error_code error;
+    if (!m_strOutput.empty() && fs::exists(fs::symlink_status(m_strOutput, error)))
         throw UsageError(Say(FILE_EXISTS, {MakeSafe(m_strOutput)}));
 
     const WorkFolder folder;
@@ -152,14 +158,15 @@ ExitStatus NewCommand::Run()
         const std::size_t nFewest = rules.ShortestFile();
         const std::size_t nRecords = m_records.value_or(nFewest);
         if (nRecords < nFewest)
-            throw UsageError(Say(TOO_FEW, {m_strTypeId, std::to_string(nFewest)}));
+            throw UsageError(Say(TOO_FEW, {MakeSafe(m_strTypeId), std::to_string(nFewest)}));
         if (nRecords > rules.nMaxRecords)
-            throw UsageError(Say(TOO_MANY, {m_strTypeId, std::to_string(rules.nMaxRecords)}));
+            throw UsageError(
+                Say(TOO_MANY, {MakeSafe(m_strTypeId), std::to_string(rules.nMaxRecords)}));
         strBytes = MakeExample(rules, definitions.Bundle(), folder.Path(), nRecords, m_nSeed);
     } catch (const UsageError&) {
         throw;
     } catch (const std::runtime_error& error) {
-        Complain(Say(NO_EXAMPLE, {m_strTypeId}));
+        Complain(Say(NO_EXAMPLE, {MakeSafe(m_strTypeId)}));
         std::cerr << MakeSafe(error.what()) << '\n';
         return ExitStatus::NotChecked;
     }
@@ -170,7 +177,7 @@ ExitStatus NewCommand::Run()
         return ExitStatus::NotWritten;
     }
     if (!PassesCheck(definitions, strDraft)) {
-        Complain(Say(NO_EXAMPLE, {m_strTypeId}));
+        Complain(Say(NO_EXAMPLE, {MakeSafe(m_strTypeId)}));
         return ExitStatus::NotChecked;
     }
     if (m_strOutput.empty()) {

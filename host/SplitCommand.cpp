@@ -149,7 +149,7 @@ ExitStatus SplitCommand::Run()
     const bool bFixed = fixed.nHead + fixed.nTail > 0;
     if (nMost <= fixed.nHead + fixed.nTail)
         throw UsageError(
-            Say(TOO_SMALL, {std::to_string(fixed.nHead + fixed.nTail + 1), strTypeId}));
+            Say(TOO_SMALL, {std::to_string(fixed.nHead + fixed.nTail + 1), MakeSafe(strTypeId)}));
 
     const std::vector<std::string> vecPart = SplitRecords(vecRecord, fixed, nMost);
     if (bFixed && vecPart.size() > 1 && !m_bRepeat)

@@ -44,12 +44,12 @@ std::vector<const ProcedureDefinition*> WantedProcedures(const Definitions& defi
     std::vector<const ProcedureDefinition*> vecProcedure;
     for (const std::string& strTypeId : vecTypeId.empty() ? vecAll : vecTypeId) {
         if (std::ranges::find(vecAll, strTypeId) == vecAll.end())
-            throw UsageError(
-                Say(UNKNOWN, {MakeSafeAndShort(strTypeId, SHOWN_CHARACTERS), Joined(vecAll)}));
+            throw UsageError(Say(UNKNOWN, {MakeSafeAndShort(strTypeId, SHOWN_CHARACTERS),
+                                           MakeSafe(Joined(vecAll))}));
         if (const ProcedureDefinition* pProcedure = definitions.Find(strTypeId))
             vecProcedure.push_back(pProcedure);
         else
-            vecProblem.push_back(Say(UNREADABLE, {strTypeId}));
+            vecProblem.push_back(Say(UNREADABLE, {MakeSafe(strTypeId)}));
     }
     return vecProcedure;
 }

@@ -20,7 +20,9 @@ constexpr std::array<std::string_view, 9> DATE_KEYWORDS = {
 
 void AddSpan(std::set<long>& setColumn, long lFirst, long lCount)
 {
-    for (long lColumn = lFirst; lFirst > 0 && lColumn < lFirst + lCount; ++lColumn)
+    if (lFirst < 1 || lFirst > COLUMNS_MAX)
+        return;
+    for (long lColumn = lFirst; lColumn < lFirst + lCount; ++lColumn)
         setColumn.insert(lColumn);
 }
 

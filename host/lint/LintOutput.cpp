@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
+#include "JsonReport.h"
 #include "Language.h"
 #include "SafeText.h"
 
@@ -79,8 +80,7 @@ void WriteLintJson(std::ostream& out,
         {"findings", std::move(list)},
     };
     // Names and values come from outside: what isn't UTF-8 becomes U+FFFD.
-    out << document.dump(INDENT, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace)
-        << '\n';
+    out << JsonText(document, INDENT) << '\n';
 }
 
 }  // namespace host

@@ -20,17 +20,19 @@ void LintReport::Add(LintRule eRule,
                      std::string strAdvice)
 {
     const LintRuleRow& row = RowOf(eRule);
+    if (row.eSeverity == LintSeverity::Error)
+        m_mapErrorLine[place.strFile].insert(place.lLine);
     m_vecFinding.push_back({row.szId, row.eSeverity, place.strFile, place.lLine,
                             std::move(strMessage), std::move(strAdvice)});
 }
 
 bool LintReport::HasError(const std::string& strFile, long lFirstLine, long lLastLine) const
 {
-    return std::ranges::any_of(m_vecFinding, [&](const LintFinding& finding) {
-        const bool bThere =
-            finding.lLine == 0 || (lFirstLine <= finding.lLine && finding.lLine <= lLastLine);
-        return finding.eSeverity == LintSeverity::Error && finding.strFile == strFile && bThere;
-    });
+    const auto file = m_mapErrorLine.find(strFile);
+    if (file == m_mapErrorLine.end())
+        return false;
+    const auto line = file->second.lower_bound(lFirstLine);
+    return file->second.contains(0) || (line != file->second.end() && *line <= lLastLine);
 }
 
 std::vector<LintFinding> LintReport::Take()
@@ -38,6 +40,7 @@ std::vector<LintFinding> LintReport::Take()
     std::ranges::stable_sort(m_vecFinding, {}, [](const LintFinding& finding) {
         return std::tie(finding.strFile, finding.lLine);
     });
+    m_mapErrorLine.clear();
     return std::exchange(m_vecFinding, {});
 }
 

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <initializer_list>
+#include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -43,6 +45,8 @@ public:
 
 private:
     std::vector<LintFinding> m_vecFinding;
+    /// Lines with an error by file; 0 stands for the file as a whole.
+    std::map<std::string, std::set<long>> m_mapErrorLine;
 };
 
 }  // namespace host

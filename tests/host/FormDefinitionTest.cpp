@@ -227,6 +227,18 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
                                          ColumnsCase{"Huge", "2000000000", 10000}),
                          [](const auto& info) { return std::string(info.param.szName); });
 
+TEST(HugeColumnTest, ColumnsOfItemsAndChecksStayWithinWhatAFormMayHave)
+{
+    const TempFolder folder;
+    folder.Write("KZEkaDefine.xml",
+                 "<define><report id=\"001\" columnNum=\"1\"><item column=\"9223372036854775807\">"
+                 "<valid id=\"exist\" column=\"9223372036854775807\"/></item></report></define>");
+    const Definitions definitions(folder.Path());
+    const ItemDefinition& item = definitions.Find("001")->vecForm.front().vecItem.front();
+    EXPECT_EQ(item.lColumn, 10000);
+    EXPECT_EQ(item.vecCheck.front().lColumn, 10000);
+}
+
 TEST(DeepDefinitionTest, ElementsNestedTooDeepAreToldWithTheLine)
 {
     const TempFolder folder;

@@ -34,6 +34,26 @@ expect_status 2 "fewer records than the form takes"
 expect_in err "at least 3 records" "fewer records than the form takes"
 run new 002 -o none/a.csv
 expect_status 4 "a folder that isn't there"
+run new 002 -o "$(printf 'a%.0s' {1..300})"
+expect_status 4 "a name that the system doesn't take"
+expect_in err "File name too long" "a name that the system doesn't take"
+for folder in "$work/none" "$work/a.csv"; do
+    TMPDIR=$folder run new 002
+    expect_status 2 "no folder for temporary files"
+    expect_in err "temporary files could be made in $folder. Set TMPDIR." "what to do then"
+done
+cp -r "$samples/../resources/KZEkaMok.bundle" broken
+definitions=$samples/../resources/KZEkaMok.bundle/KZEkaDefine.xml
+for number in 0 -1; do
+    sed "s/columnNum=\"[0-9]*\"/columnNum=\"$number\"/" "$definitions" >broken/KZEkaDefine.xml
+    KZEKAMOK_BUNDLE=$PWD/broken run new 002
+    expect_status 3 "a form without columns"
+    expect_in err "No example was found" "a form without columns"
+done
+sed 's/ \(value\|min\|max\|column\)="[0-9]*"/ \1="9223372036854775807"/' "$definitions" \
+    >broken/KZEkaDefine.xml
+KZEKAMOK_BUNDLE=$PWD/broken run new 002
+expect_not_in err "runtime error" "columns that no form has"
 
 # --- split ---
 

@@ -29,4 +29,16 @@ expect_status 2 "a report over a file to check"
 expect_in err "would take the place of a file to check" "a report over a file to check"
 cmp pass.csv "$samples/PGE5020_pass.csv" || fail "the file to check is as it was"
 
+# By its digests the page names the style and the script that a browser may use.
+run check --format html pass.csv
+for asset in css js; do
+    digest=$(sha256sum <"$samples/../host/html/report.$asset" | cut -c -64 | sed 's/../\\x&/g')
+    expect_in out "'sha256-$(printf "$digest" | base64)'" "the digest of report.$asset"
+done
+
+ln -s /dev/null sink.html
+run check --format html -o sink.html pass.csv
+expect_status 0 "a report to a device"
+[ -c sink.html ] || fail "a device stays what it is"
+
 finish

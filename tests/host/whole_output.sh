@@ -113,4 +113,11 @@ run "${convert[@]}" --dry-run -o absent/b.mok
 expect_status 4 "a dry run into a folder that doesn't exist"
 expect_files a.mok "refused dry runs leave no file"
 
+cp "$samples/PGE5080_pass.csv" own.csv
+ln -s own.csv own.mok
+run convert own.csv "${fields[@]}" -o own.mok
+expect_status 2 "the CSV file itself as the output"
+expect_in err "own.mok is the CSV file itself" "the CSV file itself as the output"
+cmp -s own.csv "$samples/PGE5080_pass.csv" || fail "the CSV file stays"
+
 finish

@@ -46,7 +46,7 @@ strPublic=$({
 } | LC_ALL=C sort)
 expect_equal "$strHeaders" "$strPublic" "installed headers"
 for strPath in "$strRoot" "$strBuild"; do
-    if grep -rlF -- "$strPath" "$strPrefix"; then
+    if grep -rlF -- "$strPath/" "$strPrefix"; then
         fail "these files hold the path $strPath"
     fi
 done
