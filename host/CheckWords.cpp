@@ -74,7 +74,7 @@ private:
         while (true) {
             const std::size_t nEnd = strAlternatives.find('|');
             m_bUsable = true;
-            const std::string strText = FillText(strAlternatives.substr(0, nEnd));
+            std::string strText = FillText(strAlternatives.substr(0, nEnd));
             if (m_bUsable)
                 return strText;
             if (nEnd == std::string_view::npos)

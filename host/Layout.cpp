@@ -89,6 +89,7 @@ std::string Escaped(const std::string& strText)
 std::vector<std::string> EscapedAll(const std::vector<std::string>& vecText)
 {
     std::vector<std::string> vecEscaped;
+    vecEscaped.reserve(vecText.size());
     for (const std::string& strText : vecText)
         vecEscaped.push_back(Escaped(strText));
     return vecEscaped;

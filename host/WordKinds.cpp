@@ -195,10 +195,11 @@ std::string LabelOf(long lFirst, long lLast, const WordContext& context)
     for (long lColumn = lFirst; lColumn <= lLast; ++lColumn) {
         if (labels.Find(lColumn, SINGLE_COLUMN) != strLabel)
             continue;
-        const std::string strFirst = labels.Find(lFirst, SINGLE_COLUMN);
+        std::string strFirst = labels.Find(lFirst, SINGLE_COLUMN);
         const std::string strLast = labels.Find(lLast, SINGLE_COLUMN);
-        const bool bBoth = !strFirst.empty() && !strLast.empty() && strFirst != strLast;
-        return bBoth ? strFirst + "～" + strLast : strLabel;
+        if (strFirst.empty() || strLast.empty() || strFirst == strLast)
+            return strLabel;
+        return strFirst.append("～").append(strLast);
     }
     return strLabel;
 }
@@ -260,7 +261,7 @@ Words Numbers(const std::string& strParameter, const WordContext&)
 
 Words AnyOf(const std::string& strParameter, const WordContext& context)
 {
-    const Words columns = Columns(strParameter, context);
+    Words columns = Columns(strParameter, context);
     if (!columns || CText::SplitNumbers(strParameter).size() == 1)
         return columns;
     return Say({"one of {1}", "{1}のいずれか"}, {*columns});

@@ -101,13 +101,12 @@ void SetReported(CheckRule& rule, const std::string& strTypeId)
         const auto vecToken = SplitTokens(rule.strValue);
         const bool bDays = vecToken.size() > 5 && vecToken[5] == "days";
         AddSpan(rule.setReported, rule.lColumn, bDays ? DATE_COLUMNS : 1);
-    } else if (strKeyword == "anyexist" || strKeyword == "anycontain") {
-        AddSpan(rule.setReported, rule.lColumn, 1);
     } else if (IsDateKeyword(strKeyword)) {
         AddSpan(rule.setReported, rule.lColumn, DATE_COLUMNS);
     } else if (strKeyword == "equalyear" || strKeyword == "containyear") {
         AddSpan(rule.setReported, rule.lColumn, YEAR_COLUMNS);
-    } else if (strKeyword == "containcolumn" || strKeyword == "exceptcolumn") {
+    } else if (strKeyword == "containcolumn" || strKeyword == "exceptcolumn" ||
+               strKeyword == "anyexist" || strKeyword == "anycontain") {
         AddSpan(rule.setReported, rule.lColumn, 1);
     } else {
         AddReads(rule, strTypeId, rule.setReported);

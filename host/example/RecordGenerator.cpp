@@ -227,12 +227,12 @@ void RecordGenerator::MakeUnits()
         if (rule.strKeyword == "age" && !SplitTokens(rule.strValue).empty())
             AddSpan(UnitKind::DATE, NumberOf(SplitTokens(rule.strValue)[0]), 4);
     }
-    for (std::size_t nItem = 0; nItem < m_form.vecItem.size(); ++nItem) {
-        if (m_form.vecItem[nItem].strType != "Date")
+    for (const ItemRule& item : m_form.vecItem) {
+        if (item.strType != "Date")
             continue;
         std::set<long> setColumn;
         for (const ItemRule& child : m_form.vecItem)
-            if (child.strParent == m_form.vecItem[nItem].strId && child.lColumn > 0)
+            if (child.strParent == item.strId && child.lColumn > 0)
                 setColumn.insert(child.lColumn);
         if (setColumn.size() == 4 && *setColumn.rbegin() - *setColumn.begin() == 3)
             AddSpan(UnitKind::DATE, *setColumn.begin(), 4);
@@ -840,11 +840,11 @@ std::string RecordGenerator::DrawNumbered(const std::string& strKind)
 /// The path of a file that is there and isn't empty if the cell is to name one, else a name alone.
 std::string RecordGenerator::DrawPath(const CellShape& shape)
 {
-    const std::string strName =
+    std::string strName =
         std::string(1, LETTERS[Random(0, 51)]) + std::to_string(Random(1, 99)) + shape.strExtension;
     if (!shape.bPath)
         return strName;
-    const std::string strPath = m_strFolder + "/" + strName;
+    std::string strPath = m_strFolder + "/" + strName;
     std::ofstream(strPath) << "x";
     return strPath;
 }
