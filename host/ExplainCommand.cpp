@@ -8,6 +8,7 @@
 
 #include "Advice.h"
 #include "CatalogueText.h"
+#include "Complain.h"
 #include "EkaMsgTable.h"
 #include "Language.h"
 #include "SafeText.h"
@@ -75,9 +76,7 @@ ExitStatus ExplainCommand::Run()
             continue;
         }
         eStatus = ExitStatus::Usage;
-        std::cout.flush();
-        std::cerr << "kzekamok: " << Say(UNKNOWN, {MakeSafeAndShort(strCode, SHOWN_CHARACTERS)})
-                  << '\n';
+        Complain(Say(UNKNOWN, {MakeSafeAndShort(strCode, SHOWN_CHARACTERS)}));
     }
     if (m_vecCode.empty())
         for (const EkaMsgRow& row : EkaMsgTable)

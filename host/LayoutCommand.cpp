@@ -4,6 +4,7 @@
 
 #include <iostream>
 
+#include "Complain.h"
 #include "Installation.h"
 #include "Language.h"
 #include "Layout.h"
@@ -44,7 +45,7 @@ ExitStatus LayoutCommand::Run()
 {
     const Definitions definitions;
     if (definitions.Bundle().empty()) {
-        std::cerr << "kzekamok: " << InstallationProblem() << '\n';
+        Complain(InstallationProblem());
         return ExitStatus::NotChecked;
     }
     std::vector<std::string> vecProblem;
@@ -58,7 +59,7 @@ ExitStatus LayoutCommand::Run()
     else
         WriteLayoutMarkdown(std::cout, vecProcedure);
     for (const std::string& strProblem : vecProblem)
-        std::cerr << "kzekamok: " << strProblem << '\n';
+        Complain(strProblem);
     return vecProblem.empty() ? ExitStatus::Passed : ExitStatus::NotChecked;
 }
 

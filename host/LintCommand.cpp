@@ -6,6 +6,7 @@
 #include <iostream>
 #include <map>
 
+#include "Complain.h"
 #include "KZCLoadResource.h"
 #include "Language.h"
 #include "SafeText.h"
@@ -45,14 +46,14 @@ Exit status: 0 without errors, 1 with errors, 3 if the folder can't be read)",
 constexpr Text UNKNOWN_TYPE_ID = {"--type {1}: a type id has three digits, such as 002 or 101",
                                   "--type {1}：申請区分は002や101のような3桁の数字です"};
 constexpr Text NO_FOLDER = {
-    "kzekamok: the folder {1} can't be read. Give the path of a resource "
+    "The folder {1} can't be read. Give the path of a resource "
     "folder.",
-    "kzekamok: フォルダー{1}を読めません。"
+    "フォルダー{1}を読めません。"
     "リソースフォルダーのパスを指定してください。"};
 constexpr Text NO_BUNDLE = {
-    "kzekamok: the resource folder KZEkaMok.bundle was not found. Give its "
+    "The resource folder KZEkaMok.bundle was not found. Give its "
     "path.",
-    "kzekamok: リソースフォルダーKZEkaMok.bundleが見つかりません。"
+    "リソースフォルダーKZEkaMok.bundleが見つかりません。"
     "パスを指定してください。"};
 
 bool IsReadableFolder(const std::string& strPath)
@@ -101,11 +102,11 @@ ExitStatus LintCommand::Run()
     const std::string strBundle =
         m_strBundle.empty() ? KZCLoadResource::getBundlePath() : m_strBundle;
     if (strBundle.empty()) {
-        std::cerr << Say(NO_BUNDLE) << '\n';
+        Complain(Say(NO_BUNDLE));
         return ExitStatus::NotChecked;
     }
     if (!IsReadableFolder(strBundle)) {
-        std::cerr << Say(NO_FOLDER, {MakeSafe(strBundle)}) << '\n';
+        Complain(Say(NO_FOLDER, {MakeSafe(strBundle)}));
         return ExitStatus::NotChecked;
     }
     const auto vecFinding = LintFolder(strBundle, m_vecTypeId);

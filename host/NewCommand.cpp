@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "CheckFile.h"
+#include "Complain.h"
 #include "FormDefinition.h"
 #include "Installation.h"
 #include "Language.h"
@@ -66,11 +67,6 @@ constexpr Text NOT_WRITTEN = {"{1} could not be written: {2}.",
                               "{1}に書き込めませんでした（{2}）。"};
 constexpr Text NO_WORK_FOLDER = {"No folder for temporary files could be made in {1}. Set TMPDIR.",
                                  "{1}に作業フォルダーを作れません。TMPDIRを設定してください。"};
-
-void Complain(const std::string& strWhat)
-{
-    std::cerr << "kzekamok: " << strWhat << '\n';
-}
 
 /// A folder for files that nobody keeps.
 class WorkFolder

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <utility>
 
+#include "Complain.h"
 #include "HtmlReport.h"
 #include "Language.h"
 #include "Report.h"
@@ -35,9 +36,7 @@ void Warn(const FileReport& report, bool bOutput)
     const bool bSeen = bOutput && isatty(STDOUT_FILENO) == 1 && isatty(STDERR_FILENO) == 1;
     if (report.eStatus < ExitStatus::Usage || bSeen)
         return;
-    std::cout.flush();
-    std::cerr << "kzekamok: " << MakeSafe(report.strFile) << ": "
-              << Sentences(report.strProblem, report.strAdvice) << '\n';
+    Complain(MakeSafe(report.strFile) + ": " + Sentences(report.strProblem, report.strAdvice));
 }
 
 }  // namespace
@@ -105,8 +104,7 @@ ExitStatus ReportRun::Finish()
     const std::string strProblem = WriteWhole(m_options.strOutput, m_file.str());
     if (strProblem.empty())
         return eStatus;
-    std::cerr << "kzekamok: "
-              << Say(NOT_WRITTEN, {MakeSafe(m_options.strOutput), MakeSafe(strProblem)}) << '\n';
+    Complain(Say(NOT_WRITTEN, {MakeSafe(m_options.strOutput), MakeSafe(strProblem)}));
     return ExitStatus::NotWritten;
 }
 

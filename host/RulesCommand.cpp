@@ -6,6 +6,7 @@
 
 #include <iostream>
 
+#include "Complain.h"
 #include "Installation.h"
 #include "ItemCatalogueText.h"
 #include "JsonReport.h"
@@ -58,7 +59,7 @@ ExitStatus RulesCommand::Run()
     }
     const Definitions definitions;
     if (definitions.Bundle().empty()) {
-        std::cerr << "kzekamok: " << InstallationProblem() << '\n';
+        Complain(InstallationProblem());
         return ExitStatus::NotChecked;
     }
     std::vector<std::string> vecProblem;
@@ -75,7 +76,7 @@ ExitStatus RulesCommand::Run()
     };
     std::cout << JsonText(document, INDENT) << '\n';
     for (const std::string& strProblem : vecProblem)
-        std::cerr << "kzekamok: " << strProblem << '\n';
+        Complain(strProblem);
     return vecProblem.empty() ? ExitStatus::Passed : ExitStatus::NotChecked;
 }
 

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "CheckFile.h"
+#include "Complain.h"
 #include "FormDefinition.h"
 #include "Installation.h"
 #include "Language.h"
@@ -77,9 +78,9 @@ constexpr Text FILE_EXISTS = {"{1} exists. Name another folder, or remove the fi
 constexpr Text NOT_WRITTEN = {"{1} could not be written: {2}.",
                               "{1}に書き込めませんでした（{2}）。"};
 
-ExitStatus Complain(const std::string& strWhat, ExitStatus eStatus)
+ExitStatus Refuse(const std::string& strWhat, ExitStatus eStatus)
 {
-    std::cerr << "kzekamok: " << strWhat << '\n';
+    Complain(strWhat);
     return eStatus;
 }
 
@@ -103,7 +104,7 @@ ExitStatus WriteParts(const std::vector<std::string>& vecPath,
         std::error_code error;
         for (std::size_t nWritten = 0; nWritten < n; ++nWritten)
             fs::remove(vecPath[nWritten], error);
-        return Complain(Say(NOT_WRITTEN, {MakeSafe(vecPath[n]), strWhy}), ExitStatus::NotWritten);
+        return Refuse(Say(NOT_WRITTEN, {MakeSafe(vecPath[n]), strWhy}), ExitStatus::NotWritten);
     }
     return ExitStatus::Passed;
 }
@@ -128,20 +129,19 @@ CLI::App* SplitCommand::AddTo(CLI::App& app)
 ExitStatus SplitCommand::Run()
 {
     if (const std::string strProblem = InstallationProblem(); !strProblem.empty())
-        return Complain(strProblem, ExitStatus::NotChecked);
+        return Refuse(strProblem, ExitStatus::NotChecked);
     const SourceFile source(m_strFile);
     if (const auto strProblem = source.TextProblem())
-        return Complain(Say(NOT_READ, {MakeSafe(m_strFile), *strProblem}), ExitStatus::NotChecked);
+        return Refuse(Say(NOT_READ, {MakeSafe(m_strFile), *strProblem}), ExitStatus::NotChecked);
     if (const auto strProblem = source.NulProblem())
-        return Complain(Say(NOT_READ, {MakeSafe(m_strFile), *strProblem}), ExitStatus::NotChecked);
+        return Refuse(Say(NOT_READ, {MakeSafe(m_strFile), *strProblem}), ExitStatus::NotChecked);
 
     const Definitions definitions;
     const std::string strTypeId = source.Cells().TypeId();
     const ProcedureDefinition* pProcedure = definitions.Find(source.OfFamily(), strTypeId);
     if (pProcedure == nullptr)
-        return Complain(
-            Say(UNKNOWN_TYPE_ID, {MakeSafe(m_strFile), MakeSafeAndShort(strTypeId, 40)}),
-            ExitStatus::Refused);
+        return Refuse(Say(UNKNOWN_TYPE_ID, {MakeSafe(m_strFile), MakeSafeAndShort(strTypeId, 40)}),
+                      ExitStatus::Refused);
     const auto vecRecord = RawRecords(source.Bytes(), pProcedure->eFamily);
     const FixedRecords fixed = FixedRecordsOf(*pProcedure);
     const auto nAllowed = static_cast<std::size_t>(pProcedure->lMaxRecord);
@@ -153,13 +153,13 @@ ExitStatus SplitCommand::Run()
 
     const std::vector<std::string> vecPart = SplitRecords(vecRecord, fixed, nMost);
     if (bFixed && vecPart.size() > 1 && !m_bRepeat)
-        return Complain(Say(HAS_FIXED_RECORDS, {MakeSafe(m_strFile)}), ExitStatus::Refused);
+        return Refuse(Say(HAS_FIXED_RECORDS, {MakeSafe(m_strFile)}), ExitStatus::Refused);
 
     std::error_code error;
     fs::create_directories(m_strFolder, error);
     if (error)
-        return Complain(Say(NOT_WRITTEN, {MakeSafe(m_strFolder), error.message()}),
-                        ExitStatus::NotWritten);
+        return Refuse(Say(NOT_WRITTEN, {MakeSafe(m_strFolder), error.message()}),
+                      ExitStatus::NotWritten);
     std::vector<std::string> vecPath;
     for (std::size_t n = 1; n <= vecPart.size(); ++n) {
         vecPath.push_back(PartPath(m_strFolder, m_strFile, n));

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "CommandLine.h"
+#include "Complain.h"
 #include "Language.h"
 
 namespace {
@@ -14,11 +15,20 @@ namespace {
 using namespace host;
 
 constexpr Text NOT_WRITTEN = {
-    "kzekamok: standard output could not be written{1}. The results above are not complete.\n",
-    "kzekamok：標準出力に書き込めませんでした{1}。上の結果は完全ではありません。\n"};
-constexpr Text FAULT = {
-    "kzekamok: unexpected fault: {1}. No file counts as checked.\n",
-    "kzekamok：予期しない障害：{1}。どのファイルもチェック済みとはみなせません。\n"};
+    "standard output could not be written{1}. The results above are not complete.",
+    "標準出力に書き込めませんでした{1}。上の結果は完全ではありません。"};
+constexpr Text FAULT = {"unexpected fault: {1}. No file counts as checked.",
+                        "予期しない障害：{1}。どのファイルもチェック済みとはみなせません。"};
+
+/// What the system tells about a failed write, or the empty text: if the write that failed lies far
+/// back, what it tells now is about something else.
+std::string WriteFailure(int nError)
+{
+    for (const int nOfAWrite : {EPIPE, ENOSPC, EDQUOT, EFBIG, EIO, EBADF})
+        if (nError == nOfAWrite)
+            return Say({": {1}", "（{1}）"}, {std::strerror(nError)});
+    return {};
+}
 
 /// Results that nobody got are no results.
 ExitStatus FinishOutput(ExitStatus eStatus)
@@ -26,10 +36,8 @@ ExitStatus FinishOutput(ExitStatus eStatus)
     std::cout.flush();
     if (std::cout)
         return eStatus;
-    const int nError = errno;
-    const std::string strReason =
-        nError != 0 ? Say({": {1}", "（{1}）"}, {std::strerror(nError)}) : std::string();
-    std::cerr << Say(NOT_WRITTEN, {strReason});
+    const std::string strWhy = WriteFailure(errno);
+    Complain(Say(NOT_WRITTEN, {strWhy}));
     return Worse(eStatus, ExitStatus::NotWritten);
 }
 
@@ -44,7 +52,7 @@ int main(int nCount, char** pArguments)
     try {
         return static_cast<int>(FinishOutput(RunCommandLine(nCount, pArguments)));
     } catch (const std::exception& error) {
-        std::cerr << Say(FAULT, {error.what()});
+        Complain(Say(FAULT, {error.what()}));
     }
     return static_cast<int>(ExitStatus::NotChecked);
 }

@@ -17,6 +17,7 @@
 #include <system_error>
 #include <utility>
 
+#include "Complain.h"
 #include "ReportWords.h"
 #include "SafeText.h"
 #include "UsageError.h"
@@ -111,12 +112,10 @@ bool BatchRun::PrepareOutput()
     fs::create_directories(m_settings.strOutput, error);
     m_nLock = error ? -1 : open(m_settings.strOutput.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (m_nLock < 0) {
-        std::cerr << "kzekamok: "
-                  << Say({"the output folder {1} can't be used: {2}",
-                          "出力フォルダー {1} を使用できません：{2}"},
-                         {MakeSafe(m_settings.strOutput),
-                          error ? error.message() : std::strerror(errno)})
-                  << '\n';
+        Complain(
+            Say({"the output folder {1} can't be used: {2}",
+                 "出力フォルダー {1} を使用できません：{2}"},
+                {MakeSafe(m_settings.strOutput), error ? error.message() : std::strerror(errno)}));
         return false;
     }
     // Where folders can't be locked, nothing is.
@@ -232,11 +231,10 @@ void BatchRun::TellNotes() const
 {
     const auto tell = [](std::size_t nCount, const Text& text) {
         if (nCount > 0)
-            std::cerr << "kzekamok: " << Say(text, {std::to_string(nCount)}) << '\n';
+            Complain(Say(text, {std::to_string(nCount)}));
     };
     if (m_list.vecFile.empty())
-        std::cerr << "kzekamok: " << Say({"no CSV file was found.", "CSVファイルがありません。"})
-                  << '\n';
+        Complain(Say({"no CSV file was found.", "CSVファイルがありません。"}));
     tell(m_list.nTexts, {".txt files left aside: {1}; --txt takes them, too.",
                          "対象外とした .txt ファイル：{1}件（--txt で対象になります）。"});
     tell(m_list.nLinks,
@@ -269,7 +267,7 @@ void BatchRun::WorkOn()
         m_strJournalProblem = failure.strProblem;
     } catch (const std::system_error& error) {
         HideProgress();
-        std::cerr << "kzekamok: " << error.what() << '\n';
+        Complain(error.what());
     }
     HideProgress();
     if (m_bWorkerDied || m_totals.Files() < m_list.vecFile.size())
@@ -375,22 +373,17 @@ ExitStatus BatchRun::Finish()
 {
     ExitStatus eStatus = m_totals.Worst();
     if (!m_strJournalProblem.empty()) {
-        std::cerr
-            << "kzekamok: "
-            << Say({"the report {1} could not be written: {2}. What isn't in it will be done "
-                    "again.",
-                    "レポート {1} に書き込めませんでした：{2}。記録のないファイルは次回もう一度"
-                    "処理します。"},
-                   {MakeSafe(OutputPath(REPORT_NAME)), m_strJournalProblem})
-            << '\n';
+        Complain(Say({"the report {1} could not be written: {2}. What isn't in it will be done "
+                      "again.",
+                      "レポート {1} に書き込めませんでした：{2}。記録のないファイルは次回もう一度"
+                      "処理します。"},
+                     {MakeSafe(OutputPath(REPORT_NAME)), m_strJournalProblem}));
         eStatus = Worse(eStatus, ExitStatus::NotWritten);
     }
     if (const std::string strProblem = WritePage(); !strProblem.empty()) {
-        std::cerr << "kzekamok: "
-                  << Say({"the page {1} could not be written: {2}.",
-                          "ページ {1} に書き込めませんでした：{2}。"},
-                         {MakeSafe(OutputPath(PAGE_NAME)), strProblem})
-                  << '\n';
+        Complain(Say(
+            {"the page {1} could not be written: {2}.", "ページ {1} に書き込めませんでした：{2}。"},
+            {MakeSafe(OutputPath(PAGE_NAME)), strProblem}));
         eStatus = Worse(eStatus, ExitStatus::NotWritten);
     }
     if (m_totals.Files() < m_list.vecFile.size())
@@ -427,21 +420,17 @@ void BatchRun::TellEnd() const
     const std::string strTime = DurationText(SteadyNow() - m_dStart);
     const std::size_t nAll = m_list.vecFile.size();
     if (m_totals.Files() < nAll) {
-        std::cerr << "kzekamok: "
-                  << Say({"broken off after {1}: {2} done. The same command goes on from there.",
-                          "{1}で中断しました：{2}を処理済み。同じコマンドで続きから再開します。"},
-                         {strTime, OfTwo(m_totals.Files(), nAll)})
-                  << '\n';
+        Complain(Say({"broken off after {1}: {2} done. The same command goes on from there.",
+                      "{1}で中断しました：{2}を処理済み。同じコマンドで続きから再開します。"},
+                     {strTime, OfTwo(m_totals.Files(), nAll)}));
         return;
     }
     const std::size_t nNow = m_progress ? m_progress->Done() : 0;
     const double dSeconds = std::max(SteadyNow() - m_dStart, 0.001);
-    std::cerr << "kzekamok: "
-              << Say({"{1} in {2}, {3} files/s, processes: {4}",
-                      "{1}を{2}で処理（毎秒{3}件、プロセス数{4}）"},
-                     {Count(nNow, FILES), strTime, RateText(static_cast<double>(nNow) / dSeconds),
-                      std::to_string(m_settings.nWorkers)})
-              << '\n';
+    Complain(Say(
+        {"{1} in {2}, {3} files/s, processes: {4}", "{1}を{2}で処理（毎秒{3}件、プロセス数{4}）"},
+        {Count(nNow, FILES), strTime, RateText(static_cast<double>(nNow) / dSeconds),
+         std::to_string(m_settings.nWorkers)}));
 }
 
 std::string BatchRun::OutputPath(const std::string& strName) const
