@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "CText.h"
+#include "JoinedText.h"
 #include "Language.h"
 #include "WordKinds.h"
 #include "validator/ItemCatalogue.h"
@@ -269,14 +270,6 @@ void AddRules(std::vector<std::string>& vecWords,
     }
 }
 
-std::string JoinRules(const std::vector<std::string>& vecWords)
-{
-    std::string strRule;
-    for (const std::string& strWords : vecWords)
-        strRule += (strRule.empty() ? "" : Say(ALTERNATIVE)) + strWords;
-    return strRule;
-}
-
 }  // namespace
 
 std::string CheckWords(const CheckDefinition& check, const FormDefinition& form)
@@ -288,7 +281,7 @@ std::string RuleOf(const FormDefinition& form, const DetailEntry& entry)
 {
     std::vector<std::string> vecWords;
     AddRules(vecWords, form, entry, true);
-    return JoinRules(vecWords);
+    return JoinedText(vecWords, Say(ALTERNATIVE));
 }
 
 std::string RuleOf(const ProcedureDefinition& procedure,
@@ -302,7 +295,7 @@ std::string RuleOf(const ProcedureDefinition& procedure,
     std::vector<std::string> vecWords;
     for (const FormDefinition& form : procedure.vecForm)
         AddRules(vecWords, form, entry, &form == pOwn);
-    return JoinRules(vecWords);
+    return JoinedText(vecWords, Say(ALTERNATIVE));
 }
 
 }  // namespace host

@@ -7,7 +7,6 @@
 #include "DetailTable.h"
 #include "FamilyFolder.h"
 #include "KZCDefinitionManager.h"
-#include "KZCEkaCommon.h"
 #include "KZCLoadResource.h"
 
 namespace host {
@@ -146,8 +145,8 @@ std::string FindFile(const std::string& strBundle,
                      const std::string& strProcId,
                      const char* szEnd)
 {
-    const char* szFolder = eFamily == Family::Finance ? "/Finance" : "/CrossBorder";
-    return KZCEkaCommon::searchProperties(strBundle + szFolder, strProcId, szEnd);
+    return FamilyFolder::FindDefinitionBelow(strBundle, CallType(eFamily), strProcId, szEnd,
+                                             "Definitions::Find");
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "CatalogueText.h"
 #include "CheckWords.h"
 #include "DetailTable.h"
+#include "JoinedText.h"
 #include "Language.h"
 #include "SafeText.h"
 
@@ -50,14 +51,6 @@ void AddOnce(std::vector<std::string>& vecText, const std::string& strText)
 {
     if (!strText.empty() && std::ranges::find(vecText, strText) == vecText.end())
         vecText.push_back(strText);
-}
-
-std::string Joined(const std::vector<std::string>& vecText, const char* szSeparator)
-{
-    std::string strJoined;
-    for (const std::string& strText : vecText)
-        strJoined += (strJoined.empty() ? "" : szSeparator) + strText;
-    return strJoined;
 }
 
 /// The text for an element of HTML and for a table of Markdown: nothing in it is markup or hidden.
@@ -175,8 +168,8 @@ void WriteLayoutMarkdown(std::ostream& out, const Procedures& vecProcedure)
                 << " |\n|---:|---|---|---|\n";
             for (const LayoutColumn& column : LayoutOf(form))
                 out << "| " << column.lColumn << " | " << Escaped(column.strLabel) << " | "
-                    << Joined(EscapedAll(column.vecTag), "<br>") << " | "
-                    << Joined(EscapedAll(column.vecCheck), "<br>") << " |\n";
+                    << JoinedText(EscapedAll(column.vecTag), "<br>") << " | "
+                    << JoinedText(EscapedAll(column.vecCheck), "<br>") << " |\n";
         }
     }
 }
@@ -201,8 +194,8 @@ void WriteLayoutHtml(std::ostream& out, const Procedures& vecProcedure)
                 << "</th></tr></thead>\n<tbody>\n";
             for (const LayoutColumn& column : LayoutOf(form))
                 out << "<tr><td>" << column.lColumn << "</td><td>" << Escaped(column.strLabel)
-                    << "</td><td>" << Joined(EscapedAll(column.vecTag), "<br>") << "</td><td>"
-                    << Joined(EscapedAll(column.vecCheck), "<br>") << "</td></tr>\n";
+                    << "</td><td>" << JoinedText(EscapedAll(column.vecTag), "<br>") << "</td><td>"
+                    << JoinedText(EscapedAll(column.vecCheck), "<br>") << "</td></tr>\n";
             out << "</tbody>\n</table>\n</div>\n";
         }
     }
@@ -221,8 +214,8 @@ void WriteLayoutCsv(std::ostream& out, const Procedures& vecProcedure)
         for (const FormDefinition& form : pProcedure->vecForm)
             for (const LayoutColumn& column : LayoutOf(form))
                 writeLine({pProcedure->strTypeId, form.strReportId, std::to_string(column.lColumn),
-                           column.strLabel, Joined(column.vecTag, "\n"),
-                           Joined(column.vecCheck, "\n")});
+                           column.strLabel, JoinedText(column.vecTag, "\n"),
+                           JoinedText(column.vecCheck, "\n")});
 }
 
 void WriteProcedureList(std::ostream& out, const Procedures& vecProcedure)

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <string_view>
 
+#include "JoinedText.h"
 #include "KZCMacOSNative.h"
 #include "Language.h"
 #include "SafeText.h"
@@ -110,10 +111,7 @@ std::string WithoutComments(const std::string& strPath, const std::string& strTe
 
 std::string KnownKeys()
 {
-    std::string strKeys;
-    for (const FilerFieldRow& row : FILER_FIELDS)
-        strKeys += (strKeys.empty() ? "" : ", ") + std::string(row.szKey);
-    return strKeys;
+    return JoinedText(FILER_FIELDS, ", ", &FilerFieldRow::szKey);
 }
 
 void TakeItem(const std::string& strPath, const CLI::ConfigItem& item, GivenFilerFields& fields)

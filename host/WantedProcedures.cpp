@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "JoinedText.h"
 #include "Language.h"
 #include "SafeText.h"
 #include "UsageError.h"
@@ -26,14 +27,6 @@ std::vector<std::string> AllTypeIds(const Definitions& definitions)
     return vecAll;
 }
 
-std::string Joined(const std::vector<std::string>& vecText)
-{
-    std::string strJoined;
-    for (const std::string& strText : vecText)
-        strJoined += (strJoined.empty() ? "" : ", ") + strText;
-    return strJoined;
-}
-
 }  // namespace
 
 std::vector<const ProcedureDefinition*> WantedProcedures(const Definitions& definitions,
@@ -45,7 +38,7 @@ std::vector<const ProcedureDefinition*> WantedProcedures(const Definitions& defi
     for (const std::string& strTypeId : vecTypeId.empty() ? vecAll : vecTypeId) {
         if (std::ranges::find(vecAll, strTypeId) == vecAll.end())
             throw UsageError(Say(UNKNOWN, {MakeSafeAndShort(strTypeId, SHOWN_CHARACTERS),
-                                           MakeSafe(Joined(vecAll))}));
+                                           MakeSafe(JoinedText(vecAll))}));
         if (const ProcedureDefinition* pProcedure = definitions.Find(strTypeId))
             vecProcedure.push_back(pProcedure);
         else

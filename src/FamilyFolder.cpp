@@ -26,8 +26,17 @@ std::string FindDefinition(CALL_TYPE eType,
                            const char* szFile,
                            const char* szFunction)
 {
+    return FindDefinitionBelow(KZCMacOSNative::getBundlePath(), eType, strProcId, szFile,
+                               szFunction);
+}
+
+std::string FindDefinitionBelow(const std::string& strBundle,
+                                CALL_TYPE eType,
+                                const std::string& strProcId,
+                                const char* szFile,
+                                const char* szFunction)
+{
     const std::string strFolder = FolderName(eType, szFunction);
-    const std::string strBundle = KZCMacOSNative::getBundlePath();
     if (strBundle.empty())
         return {};  // not a folder of that name in the root of the file system
     return KZCEkaCommon::searchProperties(strBundle + strFolder, strProcId, szFile);

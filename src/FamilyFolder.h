@@ -18,4 +18,11 @@ std::string FindDefinition(CALL_TYPE eType,
                            const char* szFile,
                            const char* szFunction);
 
+/// The same in a given resource folder; the empty text for none.
+std::string FindDefinitionBelow(const std::string& strBundle,
+                                CALL_TYPE eType,
+                                const std::string& strProcId,
+                                const char* szFile,
+                                const char* szFunction);
+
 }  // namespace FamilyFolder

@@ -3,6 +3,7 @@
 #include <array>
 #include <set>
 
+#include "JoinedText.h"
 #include "lint/LintTopics.h"
 
 namespace host {
@@ -82,9 +83,7 @@ void Compare(const LintFile& file,
 void LookAtReports(const LintFile& file, LintReport& report)
 {
     const auto& listReport = file.info.listReport;
-    std::string strKnown;
-    for (const REPORT_INFO& info : listReport)
-        strKnown += (strKnown.empty() ? "" : ", ") + info.strReportId;
+    const std::string strKnown = JoinedText(listReport, ", ", &REPORT_INFO::strReportId);
     auto latest = listReport.begin();
     std::set<std::string> setSeen;
     for (const LintForm& form : file.vecForm) {

@@ -4,6 +4,7 @@
 #include <set>
 #include <tuple>
 
+#include "JoinedText.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintPages.h"
 #include "lint/LintTopics.h"
@@ -298,18 +299,13 @@ private:
 
     void CompareReports()
     {
-        const auto join = [](const std::vector<std::string>& vecId) {
-            std::string strAll;
-            for (const std::string& strId : vecId)
-                strAll += (strAll.empty() ? "" : ", ") + strId;
-            return strAll;
-        };
         const auto vecOwn = Order(m_document);
         const auto vecOther = Order(*m_pChecks);
         // One finding for a mistake: rows that disagree have been told at their report.
         if (vecOwn != vecOther && m_setOther.empty())
             m_report.Add(LintRule::PairMismatch, {m_document.strName, m_document.xml.root->lLine},
-                         OTHER_ORDER, {join(vecOwn), m_pChecks->strName, join(vecOther)});
+                         OTHER_ORDER,
+                         {JoinedText(vecOwn), m_pChecks->strName, JoinedText(vecOther)});
     }
 
     static bool IsGeneration(const std::string& strGeneration)

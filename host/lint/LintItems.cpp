@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "ITDataTables.h"
+#include "JoinedText.h"
 #include "definition/KZCEkaMOKDefineNode.h"
 #include "lint/LintTopics.h"
 
@@ -103,14 +104,6 @@ constexpr LintTexts REPEAT_NO_ROWS = {
      "繰り返す先頭にはstartRowとendRow（どちらも1以上）が必要です。何も繰り返されません。"},
     {"Give the records that the head is made of.", "先頭を作るレコードを書いてください。"}};
 
-std::string Joined(const std::set<std::string>& setName)
-{
-    std::string strAll;
-    for (const std::string& strName : setName)
-        strAll += (strAll.empty() ? "" : ", ") + strName;
-    return strAll;
-}
-
 /// Elements of the IT section with an ID.
 template <class Table>
 std::set<std::string> Identifiers(const Table& table)
@@ -179,10 +172,7 @@ private:
     {
         if (std::ranges::find(TYPES, item.strType) != TYPES.end())
             return;
-        std::string strTypes;
-        for (const char* szType : TYPES)
-            strTypes += std::string(strTypes.empty() ? "" : ", ") + szType;
-        Add(LintRule::UnknownType, item, UNKNOWN_TYPE, {item.strType, strTypes});
+        Add(LintRule::UnknownType, item, UNKNOWN_TYPE, {item.strType, JoinedText(TYPES)});
     }
 
     void LookAtGeneration(const LintItem& item)
@@ -232,9 +222,9 @@ private:
                                                 : Identifiers(ITDataTableFINANCE);
         const std::string& strValue = item.pElement->Attribute("value");
         if (strValue.empty())
-            Add(LintRule::BadIdRef, item, NO_REFERENCE, {Joined(setId)});
+            Add(LintRule::BadIdRef, item, NO_REFERENCE, {JoinedText(setId)});
         else if (!setId.contains(strValue))
-            Add(LintRule::BadIdRef, item, UNKNOWN_REFERENCE, {Joined(setId), strValue});
+            Add(LintRule::BadIdRef, item, UNKNOWN_REFERENCE, {JoinedText(setId), strValue});
         const std::size_t nLength =
             std::string_view("< IDREF=\"\"/>").size() + item.strId.size() + strValue.size();
         if (nLength >= TAG_BUFFER_SIZE)
