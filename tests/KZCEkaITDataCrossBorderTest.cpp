@@ -4,117 +4,13 @@
 
 #include <string>
 
-#include "Fault.h"
 #include "support/FamilyItData.h"
-#include "support/Raised.h"
 
 namespace {
 
 using enum KZCEkaITDataFinance_t;
 
-class ItDataCrossBorderTest : public ResetState
-{
-protected:
-    ItDataCrossBorderTest()
-    {
-        KZCEkaTaxOffices::instance()->Initialize();
-        m_it.Initialize(true);
-    }
-
-    std::string Set(KZCEkaITDataFinance_t eId, const std::string& strValue)
-    {
-        return Told([&] { return m_it.SetITDataCrossBorder(eId, strValue.c_str()); });
-    }
-
-    Bundle m_bundle;
-    KZCEkaITDataCrossBorder m_it;
-};
-
-// ---- the element -------------------------------------------------------------------------------
-
-TEST_F(ItDataCrossBorderTest, NothingSetGivesAnEmptyElement)
-{
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"></IT>)");
-}
-
-TEST_F(ItDataCrossBorderTest, EveryFieldStandsInTheOrderOfTheTable)
-{
-    for (const auto& [eId, strValue] : FullItValues("PGE1660"))
-        EXPECT_EQ(Set(eId, strValue), PASSES);
-    EXPECT_EQ(m_it.GetXml(), FullItSection("PGE1660"));
-}
-
-TEST_F(ItDataCrossBorderTest, DayHoldsTheChildrenThatHaveAValue)
-{
-    EXPECT_EQ(Set(IT_DD, "9"), PASSES);
-    EXPECT_EQ(Set(IT_ERA, "1"), PASSES);
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"><TEISYUTSU_DAY ID="TEISYUTSU_DAY">)"
-                             R"(<gen:era>1</gen:era><gen:dd>9</gen:dd></TEISYUTSU_DAY></IT>)");
-}
-
-TEST_F(ItDataCrossBorderTest, EmptyAgentNameGivesNoElement)
-{
-    EXPECT_EQ(Set(IT_DAIRI_NM, ""), PASSES);
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"></IT>)");
-}
-
-TEST_F(ItDataCrossBorderTest, SoftwareNameGivesNoElement)
-{
-    EXPECT_EQ(Set(IT_SOFT_NAME, "帳票ソフト"), PASSES);
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"></IT>)");
-    EXPECT_STREQ(m_it.GetITDataCrossBorder(IT_SOFT_NAME), "帳票ソフト");
-}
-
-// ---- values ------------------------------------------------------------------------------------
-
-TEST_F(ItDataCrossBorderTest, FieldZeroIsEmpty)
-{
-    EXPECT_STREQ(m_it.GetITDataCrossBorder(IT_NONE), "");
-}
-
-TEST_F(ItDataCrossBorderTest, RefusedValueLeavesAFilledFieldAsItWas)
-{
-    EXPECT_EQ(Set(IT_ZIP1, "123"), PASSES);
-    EXPECT_EQ(Set(IT_ZIP1, "12"), "refuses 9999-00012-HE70008E");
-    EXPECT_STREQ(m_it.GetITDataCrossBorder(IT_ZIP1), "123");
-}
-
-TEST_F(ItDataCrossBorderTest, InitializeEmptiesTheFieldsAndTakesThePath)
-{
-    EXPECT_EQ(Set(IT_ERA, "5"), PASSES);
-    EXPECT_TRUE(m_it.IsPublic());
-    m_it.Initialize(false);
-    EXPECT_FALSE(m_it.IsPublic());
-    EXPECT_STREQ(m_it.GetITDataCrossBorder(IT_ERA), "");
-}
-
-TEST_F(ItDataCrossBorderTest, FieldsWithoutACheckTakeAnything)
-{
-    for (const int nId : {0, 1, 3, 9, 13, 21})
-        EXPECT_EQ(Set(static_cast<KZCEkaITDataFinance_t>(nId), "\x01"), PASSES) << nId;
-}
-
-TEST_F(ItDataCrossBorderTest, FieldBehindTheLastRaises)
-{
-    EXPECT_EQ(Raised([&] {
-                  static_cast<void>(
-                      m_it.SetITDataCrossBorder(static_cast<KZCEkaITDataFinance_t>(24), "x"));
-              }),
-              FAULT);
-}
-
-TEST_F(ItDataCrossBorderTest, EveryProcedureOfTheFamilyIsTaken)
-{
-    for (const char* szProcedure : {"PGE1650", "PGE1660"})
-        EXPECT_EQ(Set(IT_PROCEDURE_CD, szProcedure), PASSES) << szProcedure;
-}
-
-TEST_F(ItDataCrossBorderTest, LastDayOfNoMonthIsTaken)
-{
-    // The calendar isn't asked.
-    EXPECT_EQ(Set(IT_MM, "2"), PASSES);
-    EXPECT_EQ(Set(IT_DD, "31"), PASSES);
-}
+using ItDataCrossBorderTest = FamilyItData<CrossBorderItData>;
 
 // ---- argument numbers --------------------------------------------------------------------------
 

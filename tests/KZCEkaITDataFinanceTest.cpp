@@ -4,120 +4,13 @@
 
 #include <string>
 
-#include "Fault.h"
 #include "support/FamilyItData.h"
-#include "support/Raised.h"
 
 namespace {
 
 using enum KZCEkaITDataFinance_t;
 
-class ItDataFinanceTest : public ResetState
-{
-protected:
-    ItDataFinanceTest()
-    {
-        KZCEkaTaxOffices::instance()->Initialize();
-        m_it.Initialize(true);
-    }
-
-    std::string Set(KZCEkaITDataFinance_t eId, const std::string& strValue)
-    {
-        return Told([&] { return m_it.SetITDataFinance(eId, strValue.c_str()); });
-    }
-
-    Bundle m_bundle;
-    KZCEkaITDataFinance m_it;
-};
-
-// ---- the element -------------------------------------------------------------------------------
-
-TEST_F(ItDataFinanceTest, NothingSetGivesAnEmptyElement)
-{
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"></IT>)");
-}
-
-TEST_F(ItDataFinanceTest, EveryFieldStandsInTheOrderOfTheTable)
-{
-    for (const auto& [eId, strValue] : FullItValues("PGE2030"))
-        EXPECT_EQ(Set(eId, strValue), PASSES);
-    EXPECT_EQ(m_it.GetXml(), FullItSection("PGE2030"));
-}
-
-TEST_F(ItDataFinanceTest, DayHoldsTheChildrenThatHaveAValue)
-{
-    EXPECT_EQ(Set(IT_DD, "9"), PASSES);
-    EXPECT_EQ(Set(IT_ERA, "1"), PASSES);
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"><TEISYUTSU_DAY ID="TEISYUTSU_DAY">)"
-                             R"(<gen:era>1</gen:era><gen:dd>9</gen:dd></TEISYUTSU_DAY></IT>)");
-}
-
-TEST_F(ItDataFinanceTest, EmptyAgentNameGivesNoElement)
-{
-    EXPECT_EQ(Set(IT_DAIRI_NM, ""), PASSES);
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"></IT>)");
-}
-
-TEST_F(ItDataFinanceTest, SoftwareNameGivesNoElement)
-{
-    EXPECT_EQ(Set(IT_SOFT_NAME, "帳票ソフト"), PASSES);
-    EXPECT_EQ(m_it.GetXml(), R"(<IT VR="1.3" id="IT"></IT>)");
-    EXPECT_STREQ(m_it.GetITDataFinance(IT_SOFT_NAME), "帳票ソフト");
-}
-
-// ---- values ------------------------------------------------------------------------------------
-
-TEST_F(ItDataFinanceTest, FieldZeroIsEmpty)
-{
-    EXPECT_STREQ(m_it.GetITDataFinance(IT_NONE), "");
-}
-
-TEST_F(ItDataFinanceTest, RefusedValueLeavesAFilledFieldAsItWas)
-{
-    EXPECT_EQ(Set(IT_ZIP1, "123"), PASSES);
-    EXPECT_EQ(Set(IT_ZIP1, "12"), "refuses 9999-00019-HE70008E");
-    EXPECT_STREQ(m_it.GetITDataFinance(IT_ZIP1), "123");
-}
-
-TEST_F(ItDataFinanceTest, InitializeEmptiesTheFieldsAndTakesThePath)
-{
-    EXPECT_EQ(Set(IT_ERA, "5"), PASSES);
-    EXPECT_TRUE(m_it.IsPublic());
-    m_it.Initialize(false);
-    EXPECT_FALSE(m_it.IsPublic());
-    EXPECT_STREQ(m_it.GetITDataFinance(IT_ERA), "");
-}
-
-TEST_F(ItDataFinanceTest, FieldsWithoutACheckTakeAnything)
-{
-    for (const int nId : {0, 1, 3, 9, 13, 21})
-        EXPECT_EQ(Set(static_cast<KZCEkaITDataFinance_t>(nId), "\x01"), PASSES) << nId;
-}
-
-TEST_F(ItDataFinanceTest, FieldBehindTheLastRaises)
-{
-    EXPECT_EQ(
-        Raised([&] {
-            static_cast<void>(m_it.SetITDataFinance(static_cast<KZCEkaITDataFinance_t>(24), "x"));
-        }),
-        FAULT);
-}
-
-TEST_F(ItDataFinanceTest, EveryProcedureOfTheFamilyIsTaken)
-{
-    for (const char* szProcedure :
-         {"PGE2015", "PGE2025", "PGE2030", "PGE2040", "PGE2055", "PGE2065", "PGE2070", "PGE2080",
-          "PGE2095", "PGE2105", "PGE2115", "PGE2125", "PGE2135", "PGE2140", "PGE2150", "PGE2160",
-          "PGE1630", "PGE1640"})
-        EXPECT_EQ(Set(IT_PROCEDURE_CD, szProcedure), PASSES) << szProcedure;
-}
-
-TEST_F(ItDataFinanceTest, LastDayOfNoMonthIsTaken)
-{
-    // The calendar isn't asked.
-    EXPECT_EQ(Set(IT_MM, "2"), PASSES);
-    EXPECT_EQ(Set(IT_DD, "31"), PASSES);
-}
+using ItDataFinanceTest = FamilyItData<FinanceItData>;
 
 // ---- argument numbers --------------------------------------------------------------------------
 

@@ -9,6 +9,7 @@
 
 #include "Bundle.h"
 #include "CheckItem.h"
+#include "KZCEkaITDataCrossBorder.h"
 #include "KZCEkaITDataFinance.h"
 #include "ResetState.h"
 
@@ -82,3 +83,38 @@ inline std::string FullItSection(const std::string& strProcedure)
            R"(<TETSUZUKI ID="TETSUZUKI"><procedure_CD>)" +
            strProcedure + "</procedure_CD></TETSUZUKI></IT>";
 }
+
+struct FinanceItData
+{
+    using Data = KZCEkaITDataFinance;
+    static constexpr auto SET = &Data::SetITDataFinance;
+    static constexpr auto GET = &Data::GetITDataFinance;
+};
+
+struct CrossBorderItData
+{
+    using Data = KZCEkaITDataCrossBorder;
+    static constexpr auto SET = &Data::SetITDataCrossBorder;
+    static constexpr auto GET = &Data::GetITDataCrossBorder;
+};
+
+/// An IT section of a family on the plain path.
+template <class Family>
+class FamilyItData : public ResetState
+{
+protected:
+    FamilyItData()
+    {
+        KZCEkaTaxOffices::instance()->Initialize();
+        m_it.Initialize(true);
+    }
+
+    std::string Set(KZCEkaITDataFinance_t eId, const std::string& strValue)
+    {
+        return Told([&] { return (m_it.*Family::SET)(eId, strValue.c_str()); });
+    }
+    const char* Get(KZCEkaITDataFinance_t eId) const { return (m_it.*Family::GET)(eId); }
+
+    Bundle m_bundle;
+    typename Family::Data m_it;
+};
