@@ -557,14 +557,6 @@ long ColumnsOfRecord(const LintFile& checks, long lRecord, long lCount)
     return pForm != nullptr ? pForm->lColumnNum : 0;
 }
 
-long MostColumns(const LintFile& checks)
-{
-    long lMost = 0;
-    for (const LintForm& form : checks.vecForm)
-        lMost = std::max(lMost, form.lColumnNum);
-    return lMost;
-}
-
 std::string Resembling(const std::string& strName, const std::vector<std::string>& vecName)
 {
     constexpr std::size_t MOST = 2;

@@ -124,8 +124,6 @@ void PlaceItems(const LintFile& file, LintForm& form, LintReport& report);
 long ColumnsOfRecord(const LintFile& checks, long lRecord, long lCount);
 /// The form by which a record is checked, or null.
 const LintForm* FormOfRecord(const LintFile& checks, long lRecord, long lCount);
-/// The most columns that any of the forms has.
-long MostColumns(const LintFile& checks);
 
 /// A name of the list that differs from this one by few letters, or the empty text.
 std::string Resembling(const std::string& strName, const std::vector<std::string>& vecName);
