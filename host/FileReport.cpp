@@ -20,27 +20,6 @@ std::size_t FileReport::RecordsWithErrors() const
     return setRecord.size();
 }
 
-const char* OutcomeName(Outcome eOutcome)
-{
-    switch (eOutcome) {
-        case Outcome::Passed:
-            return "passed";
-        case Outcome::Refused:
-            return "refused";
-        case Outcome::NotChecked:
-            return "not_checked";
-        case Outcome::Converted:
-            return "converted";
-        case Outcome::Convertible:
-            return "convertible";
-        case Outcome::NotConverted:
-            return "not_converted";
-        case Outcome::NotWritten:
-            return "not_written";
-    }
-    return "not_checked";
-}
-
 const char* MessageText(const ReportedError& error)
 {
     return error.entry.eMessage != MSG_NONE ? EkaMsgTable[error.entry.eMessage].szText

@@ -12,20 +12,9 @@
 #include "DetailTable.h"
 #include "ExitStatus.h"
 #include "Family.h"
+#include "Outcome.h"
 
 namespace host {
-
-enum class Outcome
-{
-    Passed,
-    Refused,     ///< the file has errors
-    NotChecked,  ///< the check didn't reach the end of the file
-    Converted,
-    Convertible,   ///< a dry run made the document and left no file
-    NotConverted,  ///< the file passed, but a field of the filer is wrong or no document can be
-                   ///< made
-    NotWritten,    ///< the document could be made but not written
-};
 
 /// What an error belongs to.
 enum class ErrorScope
@@ -83,9 +72,6 @@ struct FileReport
     /// Distinct records that have an error of their own.
     std::size_t RecordsWithErrors() const;
 };
-
-/// The text by which formats name an outcome, such as "not_checked".
-const char* OutcomeName(Outcome eOutcome);
 
 /// The catalogue's Japanese text of an error, or a text that says that there is none.
 const char* MessageText(const ReportedError& error);

@@ -28,27 +28,10 @@ std::string Number(std::size_t n)
     return std::to_string(n);
 }
 
-const char* BadgeClass(Outcome eOutcome)
-{
-    switch (eOutcome) {
-        case Outcome::Passed:
-        case Outcome::Converted:
-        case Outcome::Convertible:
-            return "good";
-        case Outcome::Refused:
-        case Outcome::NotConverted:
-            return "bad";
-        case Outcome::NotChecked:
-        case Outcome::NotWritten:
-            return "doubt";
-    }
-    return "doubt";
-}
-
 std::string Badge(Outcome eOutcome)
 {
-    return std::string("<span class=\"badge ") + BadgeClass(eOutcome) + "\">" +
-           OutcomeWord(eOutcome) + "</span>";
+    return std::string("<span class=\"badge ") + OutcomeStyle(eOutcome) + "\">" +
+           OutcomeVerdict(eOutcome) + "</span>";
 }
 
 /// A bar of a chart; its link shows what it counts.
@@ -419,7 +402,7 @@ void WriteHtml(std::ostream& out,
                                                 : Text{"Check report", "チェック結果"});
     const bool bOne = vecReport.size() == 1;
     WriteHead(out, bOne ? MakeSafe(vecReport.front().strFile) + " – " +
-                              OutcomeWord(vecReport.front().eOutcome)
+                              OutcomeVerdict(vecReport.front().eOutcome)
                         : strHeading + " – " + Count(vecReport.size(), FILES));
     out << "<body>\n<header>\n<h1>" << strHeading
         << "</h1>\n<p class=\"tool\">kzekamok " KZEKAMOK_VERSION << " · "

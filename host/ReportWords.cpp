@@ -31,27 +31,6 @@ std::string Count(std::uintmax_t nCount, const CountText& text)
     return Say(nCount == 1 ? text.one : text.many, {Grouped(nCount)});
 }
 
-const char* OutcomeWord(Outcome eOutcome)
-{
-    switch (eOutcome) {
-        case Outcome::Passed:
-            return Say({"passed", "合格"});
-        case Outcome::Refused:
-            return Say({"REFUSED", "不合格"});
-        case Outcome::NotChecked:
-            return Say({"NOT CHECKED", "チェックできず"});
-        case Outcome::Converted:
-            return Say({"converted", "変換済み"});
-        case Outcome::Convertible:
-            return Say({"would be converted", "変換できます"});
-        case Outcome::NotConverted:
-            return Say({"NOT CONVERTED", "変換できず"});
-        case Outcome::NotWritten:
-            return Say({"NOT WRITTEN", "書き込めず"});
-    }
-    return Say({"NOT CHECKED", "チェックできず"});
-}
-
 std::string ColumnWords(long lColumn, long lColumnEnd)
 {
     const std::string strColumn = std::to_string(lColumn);

@@ -33,9 +33,6 @@ std::string Grouped(std::uintmax_t nCount);
 /// "1 error", "2,000 errors"
 std::string Count(std::uintmax_t nCount, const CountText& text);
 
-/// "passed", "REFUSED"
-const char* OutcomeWord(Outcome eOutcome);
-
 /// "record 3, columns 5 to 8"; an argument's name.
 std::string PlaceOf(const ReportedError& error);
 

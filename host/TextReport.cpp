@@ -30,17 +30,13 @@ std::string Painted(const std::string& strText, const char* szColour, const Repo
 
 const char* ColourOf(Outcome eOutcome)
 {
-    switch (eOutcome) {
-        case Outcome::Passed:
-        case Outcome::Converted:
-        case Outcome::Convertible:
+    switch (LookOf(eOutcome).eTone) {
+        case OutcomeTone::Good:
             return GREEN;
-        case Outcome::Refused:
-        case Outcome::NotConverted:
+        case OutcomeTone::Bad:
             return RED;
-        case Outcome::NotChecked:
-        case Outcome::NotWritten:
-            return YELLOW;
+        case OutcomeTone::Doubt:
+            break;
     }
     return YELLOW;
 }
@@ -48,7 +44,7 @@ const char* ColourOf(Outcome eOutcome)
 void WriteHeadline(std::ostream& out, const FileReport& report, const ReportStyle& style)
 {
     out << Painted(MakeSafe(report.strFile), BOLD, style) << ": "
-        << Painted(OutcomeWord(report.eOutcome), ColourOf(report.eOutcome), style);
+        << Painted(OutcomeVerdict(report.eOutcome), ColourOf(report.eOutcome), style);
     if (IsAboutContents(report))
         out << Say(COMMA) << ErrorSummary(report);
     else if (report.records && report.eOutcome != Outcome::NotChecked)

@@ -62,35 +62,11 @@ std::string Seconds(double dSeconds)
     return szText.data();
 }
 
-const char* StyleOf(Outcome eOutcome)
-{
-    switch (eOutcome) {
-        case Outcome::Passed:
-        case Outcome::Converted:
-        case Outcome::Convertible:
-            return "good";
-        case Outcome::Refused:
-            return "bad";
-        case Outcome::NotChecked:
-        case Outcome::NotConverted:
-        case Outcome::NotWritten:
-            return "warn";
-    }
-    return "warn";
-}
-
 /// What somebody has to look at first comes first.
 int Rank(Outcome eOutcome)
 {
     const auto* pOutcome = std::ranges::find(BATCH_OUTCOMES, eOutcome);
     return static_cast<int>(BATCH_OUTCOMES.end() - pOutcome);
-}
-
-Outcome FindOutcome(const std::string& strName)
-{
-    const auto* pOutcome = std::ranges::find_if(
-        BATCH_OUTCOMES, [&](Outcome eOutcome) { return strName == OutcomeName(eOutcome); });
-    return pOutcome != BATCH_OUTCOMES.end() ? *pOutcome : Outcome::NotChecked;
 }
 
 std::string TextOf(const Json& object, const char* szMember)
@@ -223,7 +199,8 @@ BatchPage::Row BatchPage::ReadRow(const Json& line) const
     row.strProblem = TextOf(line, "problem");
     if (const std::string strAdvice = TextOf(line, "advice"); !strAdvice.empty())
         row.strProblem += " " + strAdvice;
-    row.eOutcome = FindOutcome(line.at("result"));
+    row.eOutcome =
+        OutcomeOfName(line.at("result").get<std::string>()).value_or(Outcome::NotChecked);
     row.nErrors = line.at("counts").at("errors");
     row.bMoreErrors = line.at("counts").at("moreErrors");
     row.strCodes = CodesOf(line.at("counts").at("byCode"));
@@ -267,7 +244,7 @@ void BatchPage::AppendSummary(std::string& strHtml) const
                "</h1>\n<p class=\"soft\">kzekamok " + KZEKAMOK_VERSION + ", " + TimeStamp() +
                "</p>\n";
     if (m_totals.Files() < m_nFiles)
-        strHtml += "<p class=\"warn\"><strong>" +
+        strHtml += "<p class=\"doubt\"><strong>" +
                    Say({"Broken off: {1} of {2} files are done. The same command goes on from "
                         "there.",
                         "中断：{2}件中{1}件を処理済み。同じコマンドで続きから再開します。"},
@@ -280,9 +257,9 @@ void BatchPage::AppendSummary(std::string& strHtml) const
         const std::size_t nFiles = m_totals.Of(eOutcome);
         if (nFiles == 0)
             continue;
-        strHtml += std::string("<li><b class=\"") + StyleOf(eOutcome) + "\">" + Number(nFiles) +
-                   "</b>" + Say(OutcomeText(eOutcome)) + "</li>\n";
-        strBar += std::string("<span class=\"") + StyleOf(eOutcome) +
+        strHtml += std::string("<li><b class=\"") + OutcomeStyle(eOutcome) + "\">" +
+                   Number(nFiles) + "</b>" + OutcomeWord(eOutcome) + "</li>\n";
+        strBar += std::string("<span class=\"") + OutcomeStyle(eOutcome) +
                   "\" style=\"flex:" + Number(nFiles) + "\"></span>";
     }
     strHtml += "</ul>\n<div class=\"bar\" aria-hidden=\"true\">" + strBar + "</div>\n";
@@ -322,7 +299,7 @@ void BatchPage::AppendProcedures(std::string& strHtml) const
                Say({"Procedure", "手続"}) + "</th><th scope=\"col\">" +
                Say({"Files", "ファイル数"}) + "</th>";
     for (const Outcome eOutcome : vecSeen)
-        strHtml += std::string("<th scope=\"col\">") + Say(OutcomeText(eOutcome)) + "</th>";
+        strHtml += std::string("<th scope=\"col\">") + OutcomeWord(eOutcome) + "</th>";
     strHtml += "</tr></thead>\n<tbody>\n";
     for (const auto& [strProcedure, total] : m_mapProcedure) {
         strHtml += "<tr><td class=\"k\">" +
@@ -396,7 +373,7 @@ void BatchPage::AppendFilter(std::string& strHtml) const
     for (const Outcome eOutcome : BATCH_OUTCOMES)
         if (m_totals.Of(eOutcome) > 0)
             strHtml += std::string("<option value=\"") + OutcomeName(eOutcome) + "\">" +
-                       Say(OutcomeText(eOutcome)) + "</option>";
+                       OutcomeWord(eOutcome) + "</option>";
     strHtml += R"(</select></label><output id="shown" class="soft"></output></form>)";
     strHtml += '\n';
 }
@@ -404,8 +381,8 @@ void BatchPage::AppendFilter(std::string& strHtml) const
 void BatchPage::AppendRow(std::string& strHtml, const Row& row)
 {
     strHtml += std::string("<tr data-outcome=\"") + OutcomeName(row.eOutcome) + "\"><td>" +
-               HtmlText(row.strFile) + "</td><td class=\"o " + StyleOf(row.eOutcome) + "\">" +
-               Say(OutcomeText(row.eOutcome)) + "</td><td>" + HtmlText(row.strProcedure) + "</td>" +
+               HtmlText(row.strFile) + "</td><td class=\"o " + OutcomeStyle(row.eOutcome) + "\">" +
+               OutcomeWord(row.eOutcome) + "</td><td>" + HtmlText(row.strProcedure) + "</td>" +
                NumberCell(Number(row.nErrors),
                           row.nErrors > 0 ? Number(row.nErrors) + (row.bMoreErrors ? "+" : "")
                                           : std::string()) +

@@ -7,27 +7,6 @@
 
 namespace host {
 
-Text OutcomeText(Outcome eOutcome)
-{
-    switch (eOutcome) {
-        case Outcome::Passed:
-            return {"passed", "合格"};
-        case Outcome::Refused:
-            return {"refused", "エラーあり"};
-        case Outcome::NotChecked:
-            return {"not checked", "未チェック"};
-        case Outcome::Converted:
-            return {"converted", "変換済み"};
-        case Outcome::Convertible:
-            return {"convertible", "変換可能"};
-        case Outcome::NotConverted:
-            return {"not converted", "変換できず"};
-        case Outcome::NotWritten:
-            return {"not written", "書き込めず"};
-    }
-    return {"not checked", "未チェック"};
-}
-
 void BatchTotals::Add(Outcome eOutcome, ExitStatus eStatus)
 {
     ++m_nFiles;
@@ -55,8 +34,8 @@ std::string BatchTotals::Line() const
     for (const Outcome eOutcome : BATCH_OUTCOMES) {
         if (Of(eOutcome) == 0)
             continue;
-        strLine += szBefore + Say({"{1} {2}", "{2} {1}件"},
-                                  {Grouped(Of(eOutcome)), Say(OutcomeText(eOutcome))});
+        strLine += szBefore +
+                   Say({"{1} {2}", "{2} {1}件"}, {Grouped(Of(eOutcome)), OutcomeWord(eOutcome)});
         szBefore = Say({", ", "、"});
     }
     return strLine;

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "FileReport.h"
-#include "Language.h"
+#include "ExitStatus.h"
+#include "Outcome.h"
 
 namespace host {
 
@@ -18,9 +18,6 @@ inline constexpr std::array BATCH_OUTCOMES = {
     Outcome::Converted,    Outcome::Passed,     Outcome::Refused,
     Outcome::NotConverted, Outcome::NotChecked, Outcome::NotWritten,
 };
-
-/// In words, such as "not checked".
-Text OutcomeText(Outcome eOutcome);
 
 class BatchTotals
 {

@@ -26,9 +26,6 @@ constexpr mode_t NEW_FILE_MODE = 0666;
 constexpr double SECOND_FRACTION = 1e6;
 constexpr std::array SKIPPED_MEMBERS = {"errors", "notices", "counts"};
 
-constexpr std::array OUTCOMES = {Outcome::Passed,    Outcome::Refused,      Outcome::NotChecked,
-                                 Outcome::Converted, Outcome::NotConverted, Outcome::NotWritten};
-
 std::string Hex(const std::string& strBytes)
 {
     constexpr const char* DIGITS = "0123456789abcdef";
@@ -75,10 +72,8 @@ EarlierResult ReadResult(const Json& line)
     result.entry.strDocument = TextOf(batch.at("document"));
     result.entry.dSeconds = batch.at("seconds");
     result.eStatus = static_cast<ExitStatus>(line.at("status").get<int>());
-    const std::string strOutcome = line.at("result");
-    const auto* pOutcome = std::ranges::find_if(
-        OUTCOMES, [&](Outcome eOutcome) { return strOutcome == OutcomeName(eOutcome); });
-    result.eOutcome = pOutcome != OUTCOMES.end() ? *pOutcome : Outcome::NotChecked;
+    result.eOutcome =
+        OutcomeOfName(line.at("result").get<std::string>()).value_or(Outcome::NotChecked);
     if (line.at("document").is_object())
         result.nDocumentBytes = line.at("document").at("bytes");
     return result;

@@ -4,9 +4,9 @@ namespace host {
 
 const char* const PAGE_STYLE = R"(
 :root{color-scheme:light dark;--ground:#fff;--text:#1c2127;--soft:#5b6672;--line:#d5dae0;
---panel:#f5f7f9;--good:#1b6e3c;--bad:#a8231b;--warn:#8a5a00;--link:#0b57a8}
+--panel:#f5f7f9;--good:#1b6e3c;--bad:#a8231b;--doubt:#8a5a00;--link:#0b57a8}
 @media(prefers-color-scheme:dark){:root{--ground:#14181d;--text:#e4e8ec;--soft:#9aa6b2;
---line:#343c46;--panel:#1c222a;--good:#6fcf97;--bad:#ff8a80;--warn:#f2c063;--link:#7ab8ff}}
+--line:#343c46;--panel:#1c222a;--good:#6fcf97;--bad:#ff8a80;--doubt:#f2c063;--link:#7ab8ff}}
 *{box-sizing:border-box}
 body{margin:0 auto;padding:1.5rem;max-width:90rem;background:var(--ground);color:var(--text);
 font:15px/1.5 system-ui,"Noto Sans CJK JP","Hiragino Sans","Yu Gothic UI",sans-serif}
@@ -34,8 +34,8 @@ th{background:var(--panel);white-space:nowrap}
 .n{text-align:right;white-space:nowrap;font-variant-numeric:tabular-nums}
 .k,.o{white-space:nowrap}
 .o{font-weight:600}
-.good{color:var(--good)}.bad{color:var(--bad)}.warn{color:var(--warn)}
-.bar .good{background:var(--good)}.bar .bad{background:var(--bad)}.bar .warn{background:var(--warn)}
+.good{color:var(--good)}.bad{color:var(--bad)}.doubt{color:var(--doubt)}
+.bar .good{background:var(--good)}.bar .bad{background:var(--bad)}.bar .doubt{background:var(--doubt)}
 th button{all:unset;cursor:pointer}
 th button:focus-visible,input:focus-visible,select:focus-visible{outline:2px solid var(--link);
 outline-offset:2px}
