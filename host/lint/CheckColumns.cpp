@@ -113,12 +113,24 @@ void AddCheckedColumns(const LintForm& form,
                  CText::SplitNumbers(check.pElement->Attribute(parameter.szAttribute)))
                 for (long lCell = 0; lCell < parameter.lCells; ++lCell)
                     setColumn.insert(InReach(lListed) + lCell);
+    const auto add = [&](long lFirst, long lCells) {
+        for (long lCell = 0; lCell < lCells && lFirst > 0; ++lCell)
+            setColumn.insert(InReach(lFirst) + lCell);
+    };
     if (check.pKeyword->strKeyword == "age") {
         const auto vecToken = CText::SplitNumbers(check.pElement->Attribute("value"));
-        if (!vecToken.empty())
-            for (long lCell = 0; lCell < DATE_CELLS; ++lCell)
-                setColumn.insert(InReach(vecToken.front()) + lCell);
+        if (vecToken.size() > 1) {
+            add(vecToken[0], DATE_CELLS);
+            add(vecToken[1], YEAR_CELLS);
+        }
     }
+    const bool bBases = check.pKeyword->strKeyword == "rangebasedate_2" ||
+                        (check.pKeyword->strKeyword == "rangebasedate" &&
+                         check.pElement->Attribute("value").empty());
+    if (bBases)
+        for (const char* szBound : {"min", "max"})
+            if (check.pElement->Attribute(szBound).find('_') == std::string::npos)
+                add(ReadNumber(*check.pElement, szBound), DATE_CELLS);
 }
 
 }  // namespace host

@@ -10,6 +10,7 @@
 #include "FamilyFolder.h"
 #include "FormDefinition.h"
 #include "KZCMacOSNative.h"
+#include "definition/SearchBounds.h"
 #include "lint/CheckColumns.h"
 
 namespace host {
@@ -324,8 +325,8 @@ public:
     /// \return Whether a parent was found.
     bool Place(std::size_t nItem)
     {
-        m_lSteps = 0;
-        const bool bPlaced = Search(REPORT, nItem, NOT_FOUND, 0) != NOT_FOUND;
+        m_bounds = {};
+        const bool bPlaced = Search(REPORT, nItem, NOT_FOUND) != NOT_FOUND;
         m_form.vecItem[nItem].bPlaced = bPlaced;
         return bPlaced;
     }
@@ -334,38 +335,33 @@ public:
     bool PlaceBelowUnplaced(std::size_t nItem)
     {
         for (std::size_t nRoot = nItem; nRoot-- > 0;)
-            if (!m_form.vecItem[nRoot].bPlaced && Search(nRoot, nItem, NOT_FOUND, 0) != NOT_FOUND)
+            if (!m_form.vecItem[nRoot].bPlaced && Search(nRoot, nItem, NOT_FOUND) != NOT_FOUND)
                 return true;
         return false;
     }
 
 private:
-    struct TooDeep
-    {};
     static constexpr std::size_t REPORT = static_cast<std::size_t>(-1);
     static constexpr int NOT_FOUND = -1;
     static constexpr int ATTACHED_TO_ONE = 1;
-    static constexpr long MAX_STEPS = 100000;
-    static constexpr int MAX_DEPTH = 400;
 
-    int Search(std::size_t nNode, std::size_t nItem, int nDefault, int nDepth)
+    int Search(std::size_t nNode, std::size_t nItem, int nDefault)
     {
-        if (++m_lSteps > MAX_STEPS || nDepth > MAX_DEPTH) {
-            m_form.bTooDeep = true;
-            return 0;
-        }
-        return m_file.eFamily == Family::Base ? SearchBase(nNode, nItem, nDefault, nDepth)
-                                              : SearchFamily(nNode, nItem, nDefault, nDepth);
+        return m_file.eFamily == Family::Base ? SearchBase(nNode, nItem, nDefault)
+                                              : SearchFamily(nNode, nItem, nDefault);
     }
 
-    int SearchBase(std::size_t nNode, std::size_t nItem, int nDefault, int nDepth)
+    int SearchBase(std::size_t nNode, std::size_t nItem, int nDefault)
     {
+        if (!m_bounds.Enter())
+            return GiveUp();
         const LintItem& item = m_form.vecItem[nItem];
         int nResult = nDefault;
         if (item.strParent == Name(nNode)) {
             const std::string& strGeneration = Generation(nNode);
             if (strGeneration.empty() || strGeneration == item.strGeneration) {
                 Attach(nNode, nItem);
+                m_bounds.Leave();
                 return 0;
             }
             if (item.strGeneration.empty()) {
@@ -373,10 +369,18 @@ private:
                 nResult = ATTACHED_TO_ONE;
             }
         }
-        return SearchChildren(nNode, nItem, nResult, nDepth);
+        const auto& vecChild = Children(nNode);
+        for (std::size_t nChild = vecChild.size(); nChild > 0 && nResult != 0; --nChild) {
+            if (!m_bounds.Step())
+                return GiveUp();
+            if (vecChild[nChild - 1] != nItem)
+                nResult = Search(vecChild[nChild - 1], nItem, nResult);
+        }
+        m_bounds.Leave();
+        return nResult;
     }
 
-    int SearchFamily(std::size_t nNode, std::size_t nItem, int nDefault, int nDepth)
+    int SearchFamily(std::size_t nNode, std::size_t nItem, int nDefault)
     {
         const LintItem& item = m_form.vecItem[nItem];
         const bool bFlat = m_file.eRole == LintRole::Checks && item.strParent.empty();
@@ -384,16 +388,21 @@ private:
             Attach(nNode, nItem);
             return 0;
         }
-        return SearchChildren(nNode, nItem, nDefault, nDepth);
-    }
-
-    int SearchChildren(std::size_t nNode, std::size_t nItem, int nResult, int nDepth)
-    {
+        if (!m_bounds.Enter())
+            return GiveUp();
+        int nResult = nDefault;
         const auto& vecChild = Children(nNode);
         for (std::size_t nChild = vecChild.size(); nChild > 0 && nResult != 0; --nChild)
-            if (vecChild[nChild - 1] != nItem)
-                nResult = Search(vecChild[nChild - 1], nItem, nResult, nDepth + 1);
+            nResult = Search(vecChild[nChild - 1], nItem, nResult);
+        m_bounds.Leave();
         return nResult;
+    }
+
+    /// The library's load fails here.
+    int GiveUp()
+    {
+        m_form.bTooDeep = true;
+        return 0;
     }
 
     void Attach(std::size_t nNode, std::size_t nItem)
@@ -418,7 +427,7 @@ private:
 
     const LintFile& m_file;
     LintForm& m_form;
-    long m_lSteps = 0;
+    SearchBounds m_bounds;
 };
 
 void ReportUnplaced(const LintFile& file,

@@ -23,8 +23,8 @@ constexpr std::string_view OWN_YEAR = "****";
 constexpr LintTexts UNKNOWN_KEYWORD = {
     {"The keyword \"{1}\" isn't known: the load for checking fails.",
      "キーワード「{1}」は不明です。チェック時の読み込みに失敗します。"},
-    {"Look the keywords up in docs/data-formats.md.",
-     "キーワードはdocs/data-formats.mdにあります。"}};
+    {"\"kzekamok rules --format markdown\" lists the keywords.",
+     "キーワードの一覧は「kzekamok rules --format markdown」で表示できます。"}};
 constexpr LintTexts MISSPELT_KEYWORD = {
     {"The keyword \"{1}\" isn't known: the load for checking fails.",
      "キーワード「{1}」は不明です。チェック時の読み込みに失敗します。"},

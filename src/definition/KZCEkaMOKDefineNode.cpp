@@ -19,6 +19,7 @@
 #include "definition/KZCEkaMOKDefTAG.h"
 #include "definition/KZCEkaMOKDefZeimusho.h"
 #include "definition/KZCEkaMOKDefZip.h"
+#include "definition/SearchBounds.h"
 
 namespace {
 
@@ -64,29 +65,21 @@ std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
 
 }  // namespace
 
-/// Bounds of one search for a parent. Parents that stand once per generation double the ways
-/// through the tree at each level, so a hostile file could make the search endless, or too deep to
-/// return.
+/// One search for a parent, which faults beyond its bounds.
 struct KZCEkaMOKDefineNode::Search
 {
-    static constexpr long MAX_STEPS = 100000;
-    static constexpr int MAX_DEPTH = 500;
+    SearchBounds bounds;
 
-    long lSteps = 0;
-    int nDepth = 0;
+    void Step() { Require(bounds.Step()); }
+    void Enter() { Require(bounds.Enter()); }
+    void Leave() { bounds.Leave(); }
 
-    void Step()
+private:
+    static void Require(bool bWithinBounds)
     {
-        if (++lSteps > MAX_STEPS)
+        if (!bWithinBounds)
             RaiseFault("KZCEkaMOKDefineNode::LocateNode", nullptr);
     }
-    void Enter()
-    {
-        Step();
-        if (++nDepth > MAX_DEPTH)
-            RaiseFault("KZCEkaMOKDefineNode::LocateNode", nullptr);
-    }
-    void Leave() { --nDepth; }
 };
 
 KZCEkaMOKDefineNode::Share::Share(KZCEkaMOKDefineNode* pNode) : m_pNode(pNode)

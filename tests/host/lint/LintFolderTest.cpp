@@ -679,23 +679,80 @@ TEST(LintFilesTest, FileOfNoProcedureIsStray)
     EXPECT_EQ(vecStray, std::vector<std::string>{"Finance/PGE9999_vld.xml"});
 }
 
-TEST(LintLoadTest, TreeTooDeepForTheLibraryIsALoadFailure)
+/// The form of "002" with that many items below each other; the last one has no column.
+LintFolderText FolderWithChain(int nItems, const std::string& strLeaf)
 {
-    constexpr int LEVELS = 600;
     LintFolderText folder;
     std::string strItems;
     std::string strParent = "GEZ52000";
-    for (int nLevel = 0; nLevel < LEVELS; ++nLevel) {
-        const std::string strId = "L" + std::to_string(nLevel);
+    for (int nItem = 1; nItem < nItems; ++nItem) {
+        const std::string strId = "L" + std::to_string(nItem);
         strItems.append(R"(<item type="TAG" id=")").append(strId);
         strItems.append(R"(" parent=")").append(strParent).append("\"/>\n");
         strParent = strId;
     }
     strItems.append(R"(<item type="Normal" id="E" parent=")").append(strParent);
-    strItems.append(R"(" column="2" label="x"/>)");
+    strItems.append("\"").append(strLeaf).append("/>");
     folder.Edit({LINT_BASE, R"(<item type="IdRef")", strItems + R"(<item type="IdRef")"});
+    return folder;
+}
+
+TEST(LintLoadTest, TreeTooDeepForTheLibraryIsALoadFailure)
+{
+    const LintFolderText folder = FolderWithChain(600, R"( column="2" label="x")");
     EXPECT_EQ(Brief(folder.Lint({"002"})),
               std::vector<std::string>{"load-failure KZEkaDefine.xml:3"});
+}
+
+TEST(LintLoadTest, LeafOfATreeThatTheLibraryTakesIsLookedAt)
+{
+    const LintFolderText folder = FolderWithChain(450, "");
+    EXPECT_EQ(Brief(folder.Lint({"002"})),
+              std::vector<std::string>{"missing-column KZEkaDefine.xml:" +
+                                       std::to_string(folder.LineOf(LINT_BASE, R"(id="E")"))});
+}
+
+// The report, the item that every form begins with, and the chain but its leaf are searched.
+TEST(LintLoadTest, DeepestTreeThatTheLibraryTakesLoads)
+{
+    const LintFolderText folder = FolderWithChain(499, R"( column="2" label="x")");
+    EXPECT_EQ(Brief(folder.Lint({"002"})),
+              std::vector<std::string>{"shared-column KZEkaDefine.xml:" +
+                                       std::to_string(folder.LineOf(LINT_BASE, R"(id="E")"))});
+    EXPECT_EQ(Brief(FolderWithChain(500, R"( column="2" label="x")").Lint({"002"})),
+              std::vector<std::string>{"load-failure KZEkaDefine.xml:3"});
+}
+
+TEST(LintUnusedColumnTest, ColumnsOfAgeAndOfBaseDatesAreUsed)
+{
+    LintFolderText folder;
+    folder.Edit({LINT_BASE, R"(columnNum="10")", R"(columnNum="28")"});
+    folder.Edit({LINT_BASE, R"(<valid id="number"/>)",
+                 R"(<valid id="age" value="11 15 0 4 1" min="20"/>)"
+                 R"(<valid id="rangebasedate" column="3" min="17" max="21"/>)"
+                 R"(<valid id="rangebasedate_2" column="3" min="1_3" max="25"/>)"});
+    EXPECT_EQ(Brief(folder.Lint({"002"})), std::vector<std::string>());
+}
+
+TEST(LintUnusedColumnTest, ColumnsBehindThoseOfAgeAreUnused)
+{
+    LintFolderText folder;
+    folder.Edit({LINT_BASE, R"(columnNum="10")", R"(columnNum="17")"});
+    folder.Edit({LINT_BASE, R"(<valid id="number"/>)",
+                 R"(<valid id="age" value="11 15 0 4 1" min="20"/>)"});
+    const std::vector<LintFinding> vecFinding = folder.Lint({"002"});
+    ASSERT_EQ(vecFinding.size(), 1U);
+    EXPECT_EQ(vecFinding.front().strMessage, "No item and no check has column 17.");
+}
+
+TEST(LintUnknownKeywordTest, AdviceNamesTheCommandThatListsTheKeywords)
+{
+    LintFolderText folder;
+    folder.Edit({LINT_BASE, R"(<valid id="number"/>)", R"(<valid id="quux"/>)"});
+    const std::vector<LintFinding> vecFinding = folder.Lint({"002"});
+    ASSERT_EQ(vecFinding.size(), 1U);
+    EXPECT_EQ(vecFinding.front().strAdvice,
+              "\"kzekamok rules --format markdown\" lists the keywords.");
 }
 
 }  // namespace
