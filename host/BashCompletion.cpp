@@ -13,16 +13,25 @@ constexpr std::string_view HEAD =
 )sh";
 
 constexpr std::string_view REPLY = R"sh(
+# _kzekamok_type_ids: sets words to the type ids. A definition file may say anything: what is more to
+# a shell than letters and digits is not offered, as it would run once it stands on the command line.
+_kzekamok_type_ids()
+{
+    words=()
+    while read -r each _; do
+        [[ -z $each || $each == *[!0-9A-Za-z]* ]] || words+=("$each")
+    done < <("${COMP_WORDS[0]/#\~/$HOME}" layout 2>/dev/null)
+}
+
 # _kzekamok_reply BEGIN WORD KIND [CHOICE...]: sets COMPREPLY to what WORD can become, each behind
-# BEGIN.
+# BEGIN. compgen -W is not used: it expands what it is given, commands included.
 _kzekamok_reply()
 {
-    local begin=$1 word=$2 kind=$3 pattern file
-    local -a patterns=()
-    shift 3
+    local begin=$1 word=$2 kind=$3 pattern file each
+    local -a patterns=() words=("${@:4}")
     case $kind in
-        type_id) set -- $("${COMP_WORDS[0]/#\~/$HOME}" layout 2>/dev/null | cut -d ' ' -f 1) ;;
-        code) set -- $_kzekamok_codes ;;
+        type_id) _kzekamok_type_ids ;;
+        code) read -ra words <<<"$_kzekamok_codes" ;;
         csv_file) patterns=('!*.csv' '!*.CSV' '!*.txt' '!*.TXT') ;;
         document) patterns=('!*.mok' '!*.MOK') ;;
         file) patterns=('') ;;
@@ -41,7 +50,9 @@ _kzekamok_reply()
             )
             ;;
         *)
-            mapfile -t COMPREPLY < <(compgen -P "$begin" -W "$*" -- "$word")
+            for each in "${words[@]}"; do
+                [[ $each != "$word"* ]] || COMPREPLY+=("$begin$each")
+            done
             ;;
     esac
 }
@@ -50,6 +61,7 @@ _kzekamok()
 {
     local word=${COMP_WORDS[COMP_CWORD]} command= option= ended= begin= kind options argument n each
     local -i count=0
+    local IFS=$' \t\n'
     COMPREPLY=()
     for ((n = 1; n < COMP_CWORD; n++)); do
         each=${COMP_WORDS[n]}

@@ -12,9 +12,13 @@ constexpr std::string_view HEAD = R"sh(#compdef kzekamok
 
 _kzekamok_type_ids()
 {
+    setopt localoptions extendedglob
     local -a ids
     # A line is "103  PGE2030  finance  label".
     ids=(${(f)"$(_call_program type-ids ${(q)program} layout 2>/dev/null)"})
+    # A definition file may say anything: what is more to a shell than letters and digits is not
+    # offered.
+    ids=(${(M)ids:#[0-9A-Za-z]##  *})
     ids=(${ids/  /:})
     _describe -t type-ids 'type id' ids
 }
