@@ -1,7 +1,6 @@
 #include "batch/FileWork.h"
 
 #include <KZEkaMok/KZEkaMok.h>
-#include <unistd.h>
 
 #include <exception>
 #include <filesystem>
@@ -117,10 +116,7 @@ private:
     FilerFields FieldsOf(const BatchFile& file) const
     {
         FilerFields fields = m_settings.fields;
-        const std::string strProfile = ProfileBeside(file.strPath);
-        if (access(strProfile.c_str(), F_OK) != 0)
-            return fields;
-        const GivenFilerFields given = ReadProfile(strProfile);
+        const GivenFilerFields given = ReadProfileBeside(ProfileBeside(file.strPath));
         for (std::size_t n = 0; n < FILER_FIELD_COUNT; ++n)
             if (given[n] && fields.szOption[n] == nullptr)
                 fields[n] = *given[n];
