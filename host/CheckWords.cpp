@@ -5,35 +5,32 @@
 #include <vector>
 
 #include "CText.h"
+#include "CheckShape.h"
 #include "JoinedText.h"
 #include "Language.h"
 #include "WordKinds.h"
-#include "validator/ItemCatalogue.h"
 
 namespace host {
 namespace {
 
-constexpr long YEAR_COLUMNS = 2;
-constexpr long DATE_COLUMNS = 4;
-constexpr long COLUMN_MAX = 1'000'000'000;  ///< no error has a greater one
-
 constexpr Text NOT_GIVEN = {"(not given)", "（指定なし）"};
 constexpr Text ALTERNATIVE = {"; or ", "／"};
 
-/// How many columns an item looks at from its own.
-long OwnColumns(ErrorPlace ePlace)
+/// How many columns an item is said to look at from its own.
+long OwnColumns(const CatalogueItem& item)
 {
-    switch (ePlace) {
-        case ErrorPlace::Pair:
-        case ErrorPlace::PairOrColumn:
-            return YEAR_COLUMNS;
-        case ErrorPlace::Date:
-        case ErrorPlace::DateOrColumn:
-        case ErrorPlace::DateOrCell:
-            return DATE_COLUMNS;
-        default:
-            return 1;
+    switch (item.shape.eCells) {
+        case OwnCells::None:
+        case OwnCells::Cell:
+        case OwnCells::GroupOfKind:
+            break;
+        case OwnCells::Year:
+        case OwnCells::OfficeName:
+            return YEAR_CELLS;
+        case OwnCells::Date:
+            return DATE_CELLS;
     }
+    return 1;
 }
 
 /// Fills the templates of a check item with the parameters of a check.
@@ -41,7 +38,7 @@ class Template
 {
 public:
     Template(const CatalogueItem& item, const CheckDefinition& check, const FormDefinition& form)
-        : m_item(item), m_context{check, form, OwnColumns(item.ePlace)}
+        : m_item(item), m_context{check, form, OwnColumns(item)}
     {
     }
 
@@ -113,12 +110,9 @@ private:
         const CheckDefinition& check = m_context.check;
         if (strName == "column")
             return std::to_string(check.lColumn);
-        if (strName == "value" && m_item.bValue)
-            return check.strValue;
-        if (strName == "min" && m_item.bMin)
-            return check.strMin;
-        if (strName == "max" && m_item.bMax)
-            return check.strMax;
+        for (const Attribute eAttribute : ATTRIBUTES)
+            if (strName == AttributeName(eAttribute) && ShapeOf(m_item, eAttribute).IsRead())
+                return AttributeText(check, eAttribute);
         return {};
     }
 
@@ -143,7 +137,7 @@ std::string ConditionWords(const CheckDefinition& check, const FormDefinition& f
         if (std::string strCondition = Template(*pItem, check, form).Fill(pItem->condition);
             !strCondition.empty())
             return strCondition;
-    const long lColumns = pItem != nullptr ? OwnColumns(pItem->ePlace) : 1;
+    const long lColumns = pItem != nullptr ? OwnColumns(*pItem) : 1;
     const WordContext context{check, form, lColumns};
     const std::string strColumns =
         WriteKind("own", std::to_string(check.lColumn), context).value_or("");
@@ -152,66 +146,13 @@ std::string ConditionWords(const CheckDefinition& check, const FormDefinition& f
                {strColumns, RuleWords(check, form)});
 }
 
-struct ColumnSpan
-{
-    long lFirst;
-    long lLast;
-};
-
-/// Where an error of the check may be placed.
-std::vector<ColumnSpan> ErrorSpans(const CatalogueItem& item, const CheckDefinition& check)
-{
-    const auto from = [](long lFirst, long lColumns) {
-        const long lStart = std::clamp(lFirst, 0L, COLUMN_MAX);
-        return ColumnSpan{lStart, lStart + lColumns - 1};
-    };
-    const bool bMoved = !check.strErrColumn.empty();
-    const ColumnSpan own = from(check.lColumn, OwnColumns(item.ePlace));
-    const ColumnSpan moved = from(CText::ReadLong(check.strErrColumn.c_str()), DATE_COLUMNS);
-    switch (item.ePlace) {
-        case ErrorPlace::None:
-            return {};
-        case ErrorPlace::Cell:
-        case ErrorPlace::Pair:
-        case ErrorPlace::Date:
-            return {own};
-        case ErrorPlace::PairOrColumn:
-        case ErrorPlace::DateOrColumn:
-        case ErrorPlace::DateOrCell:
-            return {bMoved ? moved : own};
-        case ErrorPlace::GroupOfKind:
-            return {from(check.lColumn, DATE_COLUMNS), from(check.lColumn, YEAR_COLUMNS), own};
-        case ErrorPlace::CellOrDate: {
-            constexpr std::size_t DAYS = 5;
-            const auto vecToken = CText::SplitTokens(check.strValue);
-            const bool bDays = vecToken.size() > DAYS && vecToken[DAYS] == "days";
-            return {from(check.lColumn, bDays ? DATE_COLUMNS : 1)};
-        }
-        case ErrorPlace::YearOfMax:
-            return {from(CText::ReadLong(check.strMax.c_str()), YEAR_COLUMNS)};
-        case ErrorPlace::ColumnsOfValue: {
-            const auto vecColumn = CText::SplitNumbers(check.strValue);
-            if (vecColumn.empty())
-                return {};
-            return {{vecColumn.front(), vecColumn.back()}};
-        }
-    }
-    return {};
-}
-
-/// The check names the record of its errors.
-bool HasErrorRecord(const CatalogueItem& item, const CheckDefinition& check)
-{
-    return item.ePlace == ErrorPlace::DateOrCell && !check.strErrRow.empty();
-}
-
 bool ReportsAt(const CatalogueItem& item, const CheckDefinition& check, const DetailEntry& entry)
 {
     if (HasErrorRecord(item, check) && CText::ReadLong(check.strErrRow.c_str()) != entry.lRecord)
         return false;
     const long lLast = entry.lColumnEnd == SINGLE_COLUMN ? entry.lColumn : entry.lColumnEnd;
-    return std::ranges::any_of(ErrorSpans(item, check), [&entry, lLast](const ColumnSpan& span) {
-        return span.lFirst == entry.lColumn && span.lLast == lLast;
+    return std::ranges::any_of(CellsReported(item, check, ""), [&](const CellSpan& span) {
+        return span.lColumn == entry.lColumn && span.Last() == lLast;
     });
 }
 
@@ -219,7 +160,7 @@ bool ReportsCode(const CatalogueItem& item, const CheckDefinition& check, KZCEka
 {
     const KZCEkaMessage_t eOverride = FindEkaMessage(check.strMessage);
     // A group of a date keeps its code in the forms that it knows.
-    const bool bOwn = eOverride == MSG_NONE || item.ePlace == ErrorPlace::GroupOfKind;
+    const bool bOwn = eOverride == MSG_NONE || !ReadsMessage(item.shape.ePlace);
     return (eOverride != MSG_NONE && eMessage == eOverride) ||
            (bOwn && std::ranges::find(item.messages, eMessage) != item.messages.end());
 }
@@ -228,7 +169,7 @@ bool ReportsCode(const CatalogueItem& item, const CheckDefinition& check, KZCEka
 bool IsOnErrors(const CheckDefinition& condition)
 {
     const CatalogueItem* pItem = FindCatalogueItem(condition.strKeyword);
-    return pItem != nullptr && pItem->ePlace == ErrorPlace::None;
+    return pItem != nullptr && pItem->shape.ePlace == ErrorPlace::None;
 }
 
 std::string WholeWords(const CheckDefinition& check, const FormDefinition& form, bool bOnErrors)

@@ -39,6 +39,8 @@ void AppendLabel(std::string& strLabels, const std::string& strLabel)
     strLabels += strLabel;
 }
 
+}  // namespace
+
 CheckDefinition ReadCheck(const XmlElement& element, long lItemColumn)
 {
     CheckDefinition check;
@@ -58,6 +60,8 @@ CheckDefinition ReadCheck(const XmlElement& element, long lItemColumn)
             check.vecCondition.push_back(ReadCheck(child, 0));
     return check;
 }
+
+namespace {
 
 ItemDefinition ReadItem(const XmlElement& element)
 {

@@ -32,6 +32,9 @@ struct CheckDefinition
     long lLine = 0;
 };
 
+/// \param lItemColumn  Column of its item, from 1; 0 for none.
+CheckDefinition ReadCheck(const XmlElement& element, long lItemColumn);
+
 /// An `item` element.
 struct ItemDefinition
 {

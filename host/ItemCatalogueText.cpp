@@ -4,6 +4,7 @@
 #include <cctype>
 #include <vector>
 
+#include "CheckShape.h"
 #include "Language.h"
 
 namespace host {
@@ -61,12 +62,9 @@ bool IsBefore(const CatalogueItem* pFirst, const CatalogueItem* pSecond)
 std::string ItemAttributes(const CatalogueItem& item)
 {
     std::string strAttributes;
-    if (item.bValue)
-        Append(strAttributes, "value");
-    if (item.bMin)
-        Append(strAttributes, "min");
-    if (item.bMax)
-        Append(strAttributes, "max");
+    for (const Attribute eAttribute : ATTRIBUTES)
+        if (ShapeOf(item, eAttribute).IsRead())
+            Append(strAttributes, AttributeName(eAttribute));
     return strAttributes;
 }
 
@@ -80,7 +78,7 @@ std::string ItemCodes(const CatalogueItem& item)
 
 std::string ItemPlace(const CatalogueItem& item)
 {
-    return Say(PlaceText(item.ePlace));
+    return Say(PlaceText(item.shape.ePlace));
 }
 
 std::string ItemDescription(const CatalogueItem& item)

@@ -6,6 +6,7 @@
 
 #include "Advice.h"
 #include "CatalogueText.h"
+#include "CheckShape.h"
 #include "CheckWords.h"
 #include "EkaMsgTable.h"
 #include "ItemCatalogueText.h"
@@ -104,12 +105,9 @@ Json CheckItemsToJson()
     Json items = Json::array();
     for (const CatalogueItem& item : ItemCatalogue()) {
         Json attributes = Json::array();
-        if (item.bValue)
-            attributes.push_back("value");
-        if (item.bMin)
-            attributes.push_back("min");
-        if (item.bMax)
-            attributes.push_back("max");
+        for (const Attribute eAttribute : ATTRIBUTES)
+            if (ShapeOf(item, eAttribute).IsRead())
+                attributes.push_back(AttributeName(eAttribute));
         Json codes = Json::array();
         for (const KZCEkaMessage_t eMessage : item.messages)
             codes.push_back(EkaMsgTable[eMessage].szCode);

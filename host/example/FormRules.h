@@ -4,11 +4,10 @@
 #include <memory>
 #include <set>
 #include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
 #include "FormDefinition.h"
+#include "validator/ItemCatalogue.h"
 #include "validator/KZCEkaValidItem.h"
 
 namespace host {
@@ -16,18 +15,12 @@ namespace host {
 inline constexpr const char* JUNIOR = "junior";
 inline constexpr const char* SENIOR = "senior";
 
-/// One valid or outer element. Columns count from 1; 0 is no column.
-struct CheckRule
+/// A check with the library's item for it. Its column counts from 1; 0 is no column.
+struct CheckRule : CheckDefinition
 {
-    std::string strKeyword;
-    std::string strValue;
-    std::string strMin;
-    std::string strMax;
-    std::string strErrColumn;
-    std::string strErrRow;
-    long lColumn = 0;  ///< resolved: the element's own, else the node's, else the group's first
-    std::vector<CheckRule> vecCondition;
-    std::size_t nItem = 0;  ///< place of its node in FormRules::vecItem
+    const CatalogueItem* pRow = nullptr;      ///< its keyword's; never null
+    std::vector<CheckRule> vecConditionRule;  ///< of its conditions that have a column
+    std::size_t nItem = 0;                    ///< place of its node in FormRules::vecItem
 
     /// Columns of its own record that the check reads, its conditions left aside.
     std::set<long> setReads;
@@ -88,10 +81,6 @@ struct FormRules
 std::vector<std::string> SplitTokens(const std::string& strList, char cDelimiter = ' ');
 /// The number at the head of a text, or 0.
 long NumberOf(const std::string& strText);
-/// Record and column, both from 1, of a "row_col" text; zeros for any other text.
-std::pair<long, long> ReferenceOf(const std::string& strText);
-/// The keyword reads a date of four columns from its own column on.
-bool IsDateKeyword(std::string_view strKeyword);
 
 /// The rules of a form of a procedure. Throws std::runtime_error for an unknown keyword.
 FormRules MakeFormRules(const ProcedureDefinition& procedure, const FormDefinition& form);

@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "CheckShape.h"
+
 namespace host {
 
 namespace {
@@ -12,9 +14,8 @@ namespace {
 long ReferredRecord(const CheckRule& rule)
 {
     long lRecord = 0;
-    if (rule.strKeyword == "rangebasedate" || rule.strKeyword == "rangebasedate_2")
-        for (const std::string* pText : {&rule.strValue, &rule.strMin, &rule.strMax})
-            lRecord = std::max(lRecord, ReferenceOf(*pText).first);
+    for (const CellSpan& span : NamedCells(*rule.pRow, rule))
+        lRecord = std::max(lRecord, span.lRecord);
     return lRecord;
 }
 

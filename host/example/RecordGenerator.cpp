@@ -6,12 +6,14 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "CheckShape.h"
 #include "EraDate.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
 #include "ShiftJis.h"
+#include "validator/AgeWord.h"
 
 namespace host {
 
@@ -34,27 +36,40 @@ constexpr sys_days LATEST = year{2031} / 12 / 31;
 constexpr const char* DIGITS = "0123456789";
 constexpr const char* LETTERS = "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz";
 
-/// Classes of characters from the narrowest to the widest, each with characters of its own.
-struct TextClass
+/// Characters of a set, none of which only a wider set has.
+const char* CharactersOf(CellContent eContent)
 {
-    const char* szKeyword;
-    const char* szCharacters;
-};
-constexpr std::array<TextClass, 9> TEXT_CLASSES = {{
-    {"number", DIGITS},
-    {"alphabet", LETTERS},
-    {"alnum", "ABCDEFGHJKLMNPQRSTUVWXYZabcdefghkmnprstuvwxyz0123456789-"},
-    {"multikana",
-     "アイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤユヨラリルレロワヲン"
-     "ガギグゲゴパピプペポッャュョー"},
-    {"istring",
-     "見本例題甲乙丙丁東西南北山川田中町村県市一二三四五六七八九十株式会社ひらがなカタカナ０１２３"
-     "ＡＢＣ－"},
-    {"multibyte", "見本例題甲乙丙丁東西南北山川田中町村県市ひらがなカタカナ０１２３ＡＢＣ"},
-    {"multikana_2", "アカサタナハマヤラワガパーＡＢＣ１２３abcXYZ0123456789&-."},
-    {"alnumsbl", "ABCDEFGHJKLMNPQRSTUVWXYZabcdefghkmnprstuvwxyz0123456789-_.@/+"},
-    {"lvystring", "見本例題甲乙丙丁東西南北ひらがなカタカナ０１２ＡＢＣabcXYZ0123456789-./"},
-}};
+    switch (eContent) {
+        case CellContent::Digits:
+            return DIGITS;
+        case CellContent::Letters:
+            return LETTERS;
+        case CellContent::LettersAndDigits:
+        // A cell of which nothing is known holds what people would write.
+        case CellContent::Filled:
+        case CellContent::Empty:
+        case CellContent::OfficeCode:
+        case CellContent::Any:
+            break;
+        case CellContent::Katakana:
+            return "アイウエオカキクケコサシスセソタチツテトナニヌネノハヒフヘホマミムメモヤユヨラ"
+                   "リ"
+                   "ルレロワヲンガギグゲゴパピプペポッャュョー";
+        case CellContent::JisCharacters:
+            return "見本例題甲乙丙丁東西南北山川田中町村県市一二三四五六七八九十株式会社ひらがなカ"
+                   "タカナ"
+                   "０１２３ＡＢＣ－";
+        case CellContent::FullWidth:
+            return "見本例題甲乙丙丁東西南北山川田中町村県市ひらがなカタカナ０１２３ＡＢＣ";
+        case CellContent::KatakanaAndAscii:
+            return "アカサタナハマヤラワガパーＡＢＣ１２３abcXYZ0123456789&-.";
+        case CellContent::AsciiAndLineFeeds:
+            return "ABCDEFGHJKLMNPQRSTUVWXYZabcdefghkmnprstuvwxyz0123456789-_.@/+";
+        case CellContent::FilingCharacters:
+            return "見本例題甲乙丙丁東西南北ひらがなカタカナ０１２ＡＢＣabcXYZ0123456789-./";
+    }
+    return "ABCDEFGHJKLMNPQRSTUVWXYZabcdefghkmnprstuvwxyz0123456789-";
+}
 
 /// The text for people.
 std::string ToDisplay(const std::string& strShiftJis)
@@ -123,6 +138,11 @@ int YearOf(sys_days day)
     return static_cast<int>(year_month_day{day}.year());
 }
 
+std::vector<std::string> AgeWords(const CheckRule& rule)
+{
+    return SplitTokens(AttributeText(rule, AttributeOf(*rule.pRow, AttributeKind::AgeColumns)));
+}
+
 bool Intersects(const std::set<long>& setColumn, const std::vector<long>& vecColumn)
 {
     return std::ranges::any_of(vecColumn,
@@ -132,7 +152,7 @@ bool Intersects(const std::set<long>& setColumn, const std::vector<long>& vecCol
 bool Reads(const CheckRule& rule, const std::vector<long>& vecColumn)
 {
     return Intersects(rule.setReads, vecColumn) ||
-           std::ranges::any_of(rule.vecCondition, [&](const CheckRule& condition) {
+           std::ranges::any_of(rule.vecConditionRule, [&](const CheckRule& condition) {
                return Intersects(condition.setReads, vecColumn);
            });
 }
@@ -182,11 +202,11 @@ void RecordGenerator::DayRange::Narrow(sys_days newFirst, sys_days newLast)
 /// What the active checks of a cell ask of it.
 struct RecordGenerator::CellShape
 {
-    const TextClass* pClass = nullptr;
+    std::optional<CellContent> characters;
     bool bLineFeeds = false;
     bool bNumeric = false;
     std::optional<long> bytes;
-    std::optional<long> characters;
+    std::optional<long> characterCount;
     long lMaxBytes = 200;
     long lMaxCharacters = 100;
     std::optional<std::pair<long, long>> range;
@@ -222,10 +242,12 @@ RecordGenerator::RecordGenerator(const FormRules& form,
 void RecordGenerator::MakeUnits()
 {
     for (const CheckRule& rule : m_form.vecCheck) {
-        if (IsDateKeyword(rule.strKeyword) || rule.strKeyword == "rangedate_2")
-            AddSpan(UnitKind::DATE, rule.lColumn, 4);
-        if (rule.strKeyword == "age" && !SplitTokens(rule.strValue).empty())
-            AddSpan(UnitKind::DATE, NumberOf(SplitTokens(rule.strValue)[0]), 4);
+        if (rule.pRow->shape.eCells == OwnCells::Date)
+            AddSpan(UnitKind::DATE, rule.lColumn, DATE_CELLS);
+        for (const AttributeKind eKind : KindsOf(*rule.pRow))
+            if (eKind == AttributeKind::AgeColumns && !AgeWords(rule).empty())
+                AddSpan(UnitKind::DATE, NumberOf(AgeWords(rule)[AgeWord::BIRTH_COLUMN]),
+                        DATE_CELLS);
     }
     for (const ItemRule& item : m_form.vecItem) {
         if (item.strType != "Date")
@@ -237,31 +259,45 @@ void RecordGenerator::MakeUnits()
         if (setColumn.size() == 4 && *setColumn.rbegin() - *setColumn.begin() == 3)
             AddSpan(UnitKind::DATE, *setColumn.begin(), 4);
     }
-    for (const CheckRule& rule : m_form.vecCheck) {
-        if (rule.strKeyword == "existdateYYYYMMDD") {
-            std::vector<long> vecColumn;
-            for (const std::string& strToken : SplitTokens(rule.strValue))
-                vecColumn.push_back(NumberOf(strToken));
-            AddUnit(UnitKind::WESTERN_DATE, vecColumn);
-        }
-        if (rule.strKeyword == "taxofficenm")
-            AddSpan(UnitKind::OFFICE, rule.lColumn, 2);
-        if (rule.strKeyword == "equalyear" || rule.strKeyword == "containyear" ||
-            rule.strKeyword == "exist_2")
-            AddSpan(UnitKind::YEAR, rule.lColumn, 2);
-        if (rule.strKeyword == "equalyear" || rule.strKeyword == "rangedate_3")
-            AddSpan(UnitKind::YEAR, NumberOf(rule.strValue), 2);
-        if (rule.strKeyword == "rangedate_2")
-            AddSpan(UnitKind::YEAR, NumberOf(rule.strMax), 2);
-        if (rule.strKeyword == "age" && SplitTokens(rule.strValue).size() > 1)
-            AddSpan(UnitKind::YEAR, NumberOf(SplitTokens(rule.strValue)[1]), 2);
-    }
+    for (const CheckRule& rule : m_form.vecCheck)
+        AddUnitsOf(rule);
     for (long lColumn = m_form.FirstFreeColumn(); lColumn <= m_form.lColumnCount; ++lColumn)
         AddUnit(UnitKind::CELL, {lColumn});
     for (Unit& unit : m_vecUnit)
         for (const CheckRule& rule : m_form.vecCheck)
             if (Reads(rule, unit.vecColumn))
                 unit.vecCheck.push_back(&rule);
+}
+
+void RecordGenerator::AddUnitsOf(const CheckRule& rule)
+{
+    switch (rule.pRow->shape.eCells) {
+        case OwnCells::None:
+        case OwnCells::Cell:
+        case OwnCells::Date:
+            break;
+        case OwnCells::OfficeName:
+            AddSpan(UnitKind::OFFICE, rule.lColumn, 2);
+            break;
+        case OwnCells::Year:
+        case OwnCells::GroupOfKind:
+            AddSpan(UnitKind::YEAR, rule.lColumn, YEAR_CELLS);
+            break;
+    }
+    for (const Attribute eAttribute : ATTRIBUTES) {
+        const std::string& strText = AttributeText(rule, eAttribute);
+        const AttributeKind eKind = ShapeOf(*rule.pRow, eAttribute).eKind;
+        if (eKind == AttributeKind::WesternDateColumns) {
+            std::vector<long> vecColumn;
+            for (const std::string& strToken : SplitTokens(strText))
+                vecColumn.push_back(NumberOf(strToken));
+            AddUnit(UnitKind::WESTERN_DATE, vecColumn);
+        }
+        if (eKind == AttributeKind::EqualYearColumn || eKind == AttributeKind::FiscalYearColumn)
+            AddSpan(UnitKind::YEAR, NumberOf(strText), YEAR_CELLS);
+        if (eKind == AttributeKind::AgeColumns && AgeWords(rule).size() > AgeWord::YEAR_COLUMN)
+            AddSpan(UnitKind::YEAR, NumberOf(AgeWords(rule)[AgeWord::YEAR_COLUMN]), YEAR_CELLS);
+    }
 }
 
 void RecordGenerator::AddSpan(UnitKind eKind, long lFirst, long lCount)
@@ -324,7 +360,7 @@ void RecordGenerator::Make(long lRow, std::size_t nTurn)
 
 bool RecordGenerator::IsActive(const CheckRule& rule, const RecordTable& table, long lRow)
 {
-    return std::ranges::all_of(rule.vecCondition, [&](const CheckRule& condition) {
+    return std::ranges::all_of(rule.vecConditionRule, [&](const CheckRule& condition) {
         return Holds(condition, table, lRow);
     });
 }
@@ -448,9 +484,9 @@ bool RecordGenerator::DrawsEmpty(const Unit& unit, long lRow)
         if (!m_form.vecItem[pRule->nItem].FitsGeneration(m_strGeneration) ||
             !Intersects(pRule->setReported, unit.vecColumn) || !IsActive(*pRule, m_table, lRow))
             continue;
-        if (pRule->strKeyword == "exist")
+        if (pRule->pRow->shape.eContent == CellContent::Filled)
             return Chance(5);
-        if (pRule->strKeyword == "empty")
+        if (pRule->pRow->shape.eContent == CellContent::Empty)
             return Chance(95);
     }
     return Chance(30);
@@ -488,12 +524,11 @@ std::vector<std::string> RecordGenerator::DrawYear(const Unit& unit, long lRow)
 RecordGenerator::DayRange RecordGenerator::DrawRange(const Unit& unit, long lRow)
 {
     DayRange range{Chance(60) ? RECENT : EARLIEST, LATEST};
-    bool bBound = false;
-    for (const CheckRule* pRule : unit.vecCheck) {
-        const std::string& strKeyword = pRule->strKeyword;
-        bBound = bBound || strKeyword == "age" || strKeyword == "containyear" ||
-                 strKeyword == "compdate";
-    }
+    const bool bBound = std::ranges::any_of(unit.vecCheck, [](const CheckRule* pRule) {
+        return HasKind(*pRule->pRow, AttributeKind::AgeColumns) ||
+               HasKind(*pRule->pRow, AttributeKind::Years) ||
+               HasKind(*pRule->pRow, AttributeKind::ComparedDay);
+    });
     if (bBound)
         range.first = EARLIEST;
     for (const CheckRule* pRule : unit.vecCheck)
@@ -504,58 +539,115 @@ RecordGenerator::DayRange RecordGenerator::DrawRange(const Unit& unit, long lRow
 
 void RecordGenerator::NarrowByCheck(DayRange& range, const CheckRule& rule, long lColumn, long lRow)
 {
-    const std::string& strKeyword = rule.strKeyword;
-    const auto value = LiteralDay(rule.strValue);
-    const auto min = LiteralDay(rule.strMin);
-    const auto max = LiteralDay(rule.strMax);
     const bool bConditions = IsActive(rule, m_table, lRow);
     if (!bConditions && Chance(50))
         return;
-    if (strKeyword == "onward" && value) {
-        range.Narrow(*value, range.last);
-    } else if (strKeyword == "compdate") {
-        if (value)
-            range.Narrow(*value, *value);
-        else if (min)
-            range.Narrow(*min, range.last);
-        else if (max)
-            range.Narrow(range.first, *max);
-    } else if (strKeyword == "rangedate" || strKeyword == "rangedate_4") {
-        NarrowByPair(range, rule);
-    } else if (strKeyword == "containyear") {
-        const auto vecYear = SplitTokens(rule.strValue);
-        if (vecYear.empty())
-            return;
-        const year chosen{static_cast<int>(NumberOf(
-            vecYear[static_cast<std::size_t>(Random(0, static_cast<long>(vecYear.size()) - 1))]))};
-        range.Narrow(chosen / 1 / 1, chosen / 12 / 31);
-    } else if (strKeyword == "equalyear") {
-        const bool bOwn = rule.lColumn == lColumn;
-        const long lOffset = NumberOf(rule.strMax) - NumberOf(rule.strMin);
-        const auto other = YearAt(lRow, bOwn ? NumberOf(rule.strValue) : rule.lColumn);
-        if (!other)
-            return;
-        const year wanted{*other + static_cast<int>(bOwn ? lOffset : -lOffset)};
-        range.Narrow(wanted / 1 / 1, wanted / 12 / 31);
-    } else if (strKeyword == "rangedate_2" || strKeyword == "rangedate_3") {
-        const long lYearColumn =
-            NumberOf(strKeyword == "rangedate_2" ? rule.strMax : rule.strValue);
-        if (rule.lColumn == lColumn) {
-            const auto other = YearAt(lRow, lYearColumn);
-            if (!other)
-                return;
-            const bool bYear = strKeyword == "rangedate_3";
-            const sys_days first = bYear || !min ? sys_days{year{*other - 1} / 10 / 1} : *min;
-            range.Narrow(first, year{*other} / 9 / 30);
-        } else if (const auto day = DayAt(lRow, rule.lColumn)) {
-            const year last{YearOf(*day + days{92})};
-            range.Narrow(last / 1 / 1,
-                         strKeyword == "rangedate_3" ? sys_days{last / 12 / 31} : range.last);
+    for (const AttributeKind eKind : KindsOf(*rule.pRow))
+        NarrowByKind(range, eKind, rule, lColumn, lRow);
+}
+
+void RecordGenerator::NarrowByKind(
+    DayRange& range, AttributeKind eKind, const CheckRule& rule, long lColumn, long lRow)
+{
+    const auto value = LiteralDay(rule.strValue);
+    const auto min = LiteralDay(rule.strMin);
+    const auto max = LiteralDay(rule.strMax);
+    switch (eKind) {
+        case AttributeKind::FirstDay: {
+            // Beside a year's column it is told with that.
+            const auto first = LiteralDay(AttributeText(rule, AttributeOf(*rule.pRow, eKind)));
+            if (first && !HasKind(*rule.pRow, AttributeKind::FiscalYearColumn))
+                range.Narrow(*first, range.last);
+            break;
         }
-    } else if (strKeyword == "age") {
-        NarrowByAge(range, rule, lColumn, lRow);
-    } else if (strKeyword == "rangebasedate" || strKeyword == "rangebasedate_2") {
-        NarrowByBaseDate(range, rule, lColumn, lRow);
+        case AttributeKind::ComparedDay:
+            if (value)
+                range.Narrow(*value, *value);
+            else if (min)
+                range.Narrow(*min, range.last);
+            else if (max)
+                range.Narrow(range.first, *max);
+            break;
+        case AttributeKind::Periods:
+        case AttributeKind::Period:
+            NarrowByPair(range, rule);
+            break;
+        case AttributeKind::Years: {
+            const auto vecYear = SplitTokens(rule.strValue);
+            if (vecYear.empty())
+                break;
+            const year chosen{static_cast<int>(NumberOf(vecYear[static_cast<std::size_t>(
+                Random(0, static_cast<long>(vecYear.size()) - 1))]))};
+            range.Narrow(chosen / 1 / 1, chosen / 12 / 31);
+            break;
+        }
+        case AttributeKind::EqualYearColumn: {
+            const bool bOwn = rule.lColumn == lColumn;
+            const long lOffset = NumberOf(rule.strMax) - NumberOf(rule.strMin);
+            const auto other = YearAt(lRow, bOwn ? NumberOf(rule.strValue) : rule.lColumn);
+            if (!other)
+                break;
+            const year wanted{*other + static_cast<int>(bOwn ? lOffset : -lOffset)};
+            range.Narrow(wanted / 1 / 1, wanted / 12 / 31);
+            break;
+        }
+        case AttributeKind::FiscalYearColumn:
+            NarrowByFiscalYear(range, rule, lColumn, lRow);
+            break;
+        case AttributeKind::AgeColumns:
+            NarrowByAge(range, rule, lColumn, lRow);
+            break;
+        case AttributeKind::BaseDate:
+        case AttributeKind::BaseDateOrCell:
+            NarrowByBaseDate(range, rule, lColumn, lRow);
+            break;
+        // Told with the base dates, the ages or the year beside them.
+        case AttributeKind::DateCell:
+        case AttributeKind::LimitsIncluded:
+        case AttributeKind::AgeLimit:
+        case AttributeKind::Offset:
+        // Of no date.
+        case AttributeKind::None:
+        case AttributeKind::Texts:
+        case AttributeKind::ForbiddenTexts:
+        case AttributeKind::Extensions:
+        case AttributeKind::Positions:
+        case AttributeKind::Characters:
+        case AttributeKind::PathKind:
+        case AttributeKind::NumberKind:
+        case AttributeKind::LineFeeds:
+        case AttributeKind::ByteCount:
+        case AttributeKind::CharacterCount:
+        case AttributeKind::Limit:
+        case AttributeKind::Record:
+        case AttributeKind::EqualColumn:
+        case AttributeKind::UnequalColumn:
+        case AttributeKind::AnyColumn:
+        case AttributeKind::ErrorColumns:
+        case AttributeKind::WesternDateColumns:
+            break;
+    }
+}
+
+/// From the first day, where there is one, or within the one year that ends in September.
+void RecordGenerator::NarrowByFiscalYear(DayRange& range,
+                                         const CheckRule& rule,
+                                         long lColumn,
+                                         long lRow)
+{
+    const bool bOneYear = !HasKind(*rule.pRow, AttributeKind::FirstDay);
+    const auto first =
+        bOneYear
+            ? std::nullopt
+            : LiteralDay(AttributeText(rule, AttributeOf(*rule.pRow, AttributeKind::FirstDay)));
+    const Attribute eYear = AttributeOf(*rule.pRow, AttributeKind::FiscalYearColumn);
+    if (rule.lColumn == lColumn) {
+        if (const auto other = YearAt(lRow, NumberOf(AttributeText(rule, eYear))))
+            range.Narrow(first.value_or(sys_days{year{*other - 1} / 10 / 1}),
+                         year{*other} / 9 / 30);
+    } else if (const auto day = DayAt(lRow, rule.lColumn)) {
+        const year last{YearOf(*day + days{92})};
+        range.Narrow(last / 1 / 1, bOneYear ? sys_days{last / 12 / 31} : range.last);
     }
 }
 
@@ -563,7 +655,7 @@ void RecordGenerator::NarrowByPair(DayRange& range, const CheckRule& rule)
 {
     const auto vecMin = SplitTokens(rule.strMin);
     const auto vecMax = SplitTokens(rule.strMax);
-    const long lPairs = rule.strKeyword == "rangedate_4"
+    const long lPairs = HasKind(*rule.pRow, AttributeKind::Period)
                             ? 1
                             : static_cast<long>(std::min(vecMin.size(), vecMax.size()));
     if (vecMin.empty() || vecMax.empty())
@@ -585,21 +677,22 @@ void RecordGenerator::NarrowByPair(DayRange& range, const CheckRule& rule)
 void RecordGenerator::NarrowByAge(DayRange& range, const CheckRule& rule, long lColumn, long lRow)
 {
     constexpr long OLDEST = 95;
-    const auto vecToken = SplitTokens(rule.strValue);
-    if (vecToken.size() < 5)
+    const auto vecToken = AgeWords(rule);
+    if (vecToken.size() < AgeWord::LEAST)
         return;
-    const int nAdded = static_cast<int>(NumberOf(vecToken[2]));
+    const int nAdded = static_cast<int>(NumberOf(vecToken[AgeWord::ADDED_YEARS]));
     const long lAge =
         Random(NumberOf(rule.strMin), rule.strMax.empty() ? OLDEST : NumberOf(rule.strMax));
-    if (NumberOf(vecToken[0]) == lColumn) {
-        const auto reference = YearAt(lRow, NumberOf(vecToken[1]));
-        const auto day = reference ? DayOf(*reference + nAdded - static_cast<int>(lAge),
-                                           NumberOf(vecToken[3]), NumberOf(vecToken[4]))
-                                   : std::nullopt;
+    if (NumberOf(vecToken[AgeWord::BIRTH_COLUMN]) == lColumn) {
+        const auto reference = YearAt(lRow, NumberOf(vecToken[AgeWord::YEAR_COLUMN]));
+        const auto day =
+            reference ? DayOf(*reference + nAdded - static_cast<int>(lAge),
+                              NumberOf(vecToken[AgeWord::MONTH]), NumberOf(vecToken[AgeWord::DAY]))
+                      : std::nullopt;
         if (day)
             range.Narrow(*day - days{364}, *day);
-    } else if (NumberOf(vecToken[1]) == lColumn) {
-        if (const auto birth = DayAt(lRow, NumberOf(vecToken[0]))) {
+    } else if (NumberOf(vecToken[AgeWord::YEAR_COLUMN]) == lColumn) {
+        if (const auto birth = DayAt(lRow, NumberOf(vecToken[AgeWord::BIRTH_COLUMN]))) {
             const year wanted{YearOf(*birth) + static_cast<int>(lAge) - nAdded};
             range.Narrow(wanted / 1 / 1, wanted / 12 / 31);
         }
@@ -611,10 +704,12 @@ void RecordGenerator::NarrowByBaseDate(DayRange& range,
                                        long lColumn,
                                        long lRow)
 {
-    const bool bInclude = rule.strKeyword == "rangebasedate" || rule.strValue == "include";
+    const bool bOther = HasKind(*rule.pRow, AttributeKind::DateCell);
+    const bool bInclude = bOther || !rule.strValue.empty();
     const days gap{bInclude ? 0 : 1};
-    if (rule.strKeyword == "rangebasedate" && !rule.strValue.empty()) {
-        if (ReferenceOf(rule.strValue) == std::pair(lRow + 1, lColumn)) {
+    if (bOther && !rule.strValue.empty()) {
+        const CellSpan referred = ReferredDate(rule.strValue);
+        if (referred.lRecord == lRow + 1 && referred.lColumn == lColumn) {
             range.Narrow(LiteralDay(rule.strMin).value_or(range.first),
                          LiteralDay(rule.strMax).value_or(range.last));
         }
@@ -636,9 +731,9 @@ void RecordGenerator::NarrowByBaseDate(DayRange& range,
 
 std::optional<sys_days> RecordGenerator::BaseDate(const std::string& strBound, long lRow) const
 {
-    const auto [lRecord, lColumn] = ReferenceOf(strBound);
-    if (lRecord > 0)
-        return DayAt(lRecord - 1, lColumn);
+    const CellSpan referred = ReferredDate(strBound);
+    if (referred.lRecord > 0)
+        return DayAt(referred.lRecord - 1, referred.lColumn);
     return DayAt(lRow, NumberOf(strBound));
 }
 
@@ -702,9 +797,9 @@ RecordGenerator::CellShape RecordGenerator::Shape(const Unit& unit, long lRow)
             continue;
         // A condition on the cell itself isn't known before the cell is drawn.
         const bool bActive =
-            std::ranges::all_of(pRule->vecCondition, [&](const CheckRule& condition) {
+            std::ranges::all_of(pRule->vecConditionRule, [&](const CheckRule& condition) {
                 return condition.setReads == std::set{lColumn}
-                           ? condition.strKeyword == "exist" || Chance(50)
+                           ? condition.pRow->shape.eContent == CellContent::Filled || Chance(50)
                            : Holds(condition, m_table, lRow);
             });
         if (bActive)
@@ -715,68 +810,124 @@ RecordGenerator::CellShape RecordGenerator::Shape(const Unit& unit, long lRow)
 
 void RecordGenerator::AddToShape(CellShape& shape, const CheckRule& rule, long lColumn, long lRow)
 {
-    const std::string& strKeyword = rule.strKeyword;
-    const auto textClass = std::ranges::find_if(
-        TEXT_CLASSES, [&](const TextClass& other) { return other.szKeyword == strKeyword; });
-    if (textClass != TEXT_CLASSES.end()) {
-        if (shape.pClass == nullptr || &*textClass < shape.pClass)
-            shape.pClass = &*textClass;
-        shape.bLineFeeds = shape.bLineFeeds || rule.strValue == "allow_LF";
-    } else if (strKeyword == "contain") {
-        std::vector<std::string> vecToken;
-        for (const std::string& strToken : SplitTokens(rule.strValue))
-            vecToken.push_back(ToShiftJis(strToken));
-        if (shape.tokens) {
-            std::erase_if(*shape.tokens, [&](const std::string& strToken) {
-                return std::ranges::find(vecToken, strToken) == vecToken.end();
-            });
-        } else {
-            shape.tokens = vecToken;
+    const CellContent eContent = rule.pRow->shape.eContent;
+    if (IsCharacterSet(eContent))
+        shape.characters = std::min(shape.characters.value_or(eContent), eContent);
+    shape.bOffice = shape.bOffice || eContent == CellContent::OfficeCode;
+    for (const AttributeKind eKind : KindsOf(*rule.pRow))
+        AddKindToShape(shape, eKind, rule, lColumn, lRow);
+}
+
+void RecordGenerator::AddKindToShape(
+    CellShape& shape, AttributeKind eKind, const CheckRule& rule, long lColumn, long lRow)
+{
+    switch (eKind) {
+        case AttributeKind::LineFeeds:
+            shape.bLineFeeds = shape.bLineFeeds || !rule.strValue.empty();
+            break;
+        case AttributeKind::Texts: {
+            std::vector<std::string> vecToken;
+            for (const std::string& strToken : SplitTokens(rule.strValue))
+                vecToken.push_back(ToShiftJis(strToken));
+            if (shape.tokens) {
+                std::erase_if(*shape.tokens, [&](const std::string& strToken) {
+                    return std::ranges::find(vecToken, strToken) == vecToken.end();
+                });
+            } else {
+                shape.tokens = vecToken;
+            }
+            break;
         }
-    } else if (strKeyword == "range" || (strKeyword == "anycontain" && Chance(70))) {
-        const long lMin = NumberOf(rule.strMin);
-        const long lMax = NumberOf(rule.strMax);
-        shape.range = shape.range ? std::pair(std::max(shape.range->first, lMin),
-                                              std::min(shape.range->second, lMax))
-                                  : std::pair(lMin, lMax);
-    } else if (strKeyword == "length") {
-        if (!rule.strValue.empty())
-            shape.bytes = NumberOf(rule.strValue);
-        else
-            shape.lMaxBytes = std::min(shape.lMaxBytes, NumberOf(rule.strMax));
-    } else if (strKeyword == "charlength") {
-        if (!rule.strValue.empty())
-            shape.characters = NumberOf(rule.strValue);
-        else
-            shape.lMaxCharacters = std::min(shape.lMaxCharacters, NumberOf(rule.strMax));
-    } else if (strKeyword == "checkdigit") {
-        shape.vecNumberKind.push_back(rule.strValue);
-    } else if (strKeyword == "digitequality") {
-        shape.vecDigitRule.push_back(&rule);
-    } else if (strKeyword == "taxoffice") {
-        shape.bOffice = true;
-    } else if (strKeyword == "existpath") {
-        shape.bPath = true;
-    } else if (strKeyword == "extension" && !SplitTokens(rule.strValue).empty()) {
-        shape.strExtension = SplitTokens(rule.strValue).front();
-    } else if (strKeyword == "containcolumn" && Chance(80)) {
-        const bool bOwn = rule.lColumn == lColumn;
-        const std::string strOther =
-            m_table.Cell(lRow, bOwn ? NumberOf(rule.strValue) : rule.lColumn);
-        const bool bNumbers = !rule.strMin.empty() || !rule.strMax.empty();
-        const long lOffset = NumberOf(rule.strMin) - NumberOf(rule.strMax);
-        if (!strOther.empty())
-            shape.fixed = bNumbers
-                              ? std::to_string(NumberOf(strOther) + (bOwn ? lOffset : -lOffset))
-                              : strOther;
+        case AttributeKind::Limit: {
+            // Of several columns one suffices.
+            if (HasKind(*rule.pRow, AttributeKind::AnyColumn) && !Chance(70))
+                break;
+            const long lMin = NumberOf(rule.strMin);
+            const long lMax = NumberOf(rule.strMax);
+            shape.range = shape.range ? std::pair(std::max(shape.range->first, lMin),
+                                                  std::min(shape.range->second, lMax))
+                                      : std::pair(lMin, lMax);
+            break;
+        }
+        case AttributeKind::ByteCount:
+            if (!rule.strValue.empty())
+                shape.bytes = NumberOf(rule.strValue);
+            else
+                shape.lMaxBytes = std::min(shape.lMaxBytes, NumberOf(rule.strMax));
+            break;
+        case AttributeKind::CharacterCount:
+            if (!rule.strValue.empty())
+                shape.characterCount = NumberOf(rule.strValue);
+            else
+                shape.lMaxCharacters = std::min(shape.lMaxCharacters, NumberOf(rule.strMax));
+            break;
+        case AttributeKind::NumberKind:
+            shape.vecNumberKind.push_back(rule.strValue);
+            break;
+        case AttributeKind::Positions:
+            shape.vecDigitRule.push_back(&rule);
+            break;
+        case AttributeKind::PathKind:
+            shape.bPath = true;
+            break;
+        case AttributeKind::Extensions:
+            if (const auto vecToken = SplitTokens(rule.strValue); !vecToken.empty())
+                shape.strExtension = vecToken.front();
+            break;
+        case AttributeKind::EqualColumn:
+            if (Chance(80))
+                FixByColumn(shape, rule, lColumn, lRow);
+            break;
+        // Told with the kind beside them.
+        case AttributeKind::Characters:
+        case AttributeKind::AnyColumn:
+        case AttributeKind::Offset:
+        // Nearly every cell that is drawn otherwise keeps to them.
+        case AttributeKind::ForbiddenTexts:
+        case AttributeKind::UnequalColumn:
+        // Of errors and of dates, which are drawn as a whole.
+        case AttributeKind::None:
+        case AttributeKind::ErrorColumns:
+        case AttributeKind::Record:
+        case AttributeKind::LimitsIncluded:
+        case AttributeKind::AgeLimit:
+        case AttributeKind::Years:
+        case AttributeKind::WesternDateColumns:
+        case AttributeKind::EqualYearColumn:
+        case AttributeKind::FiscalYearColumn:
+        case AttributeKind::AgeColumns:
+        case AttributeKind::DateCell:
+        case AttributeKind::BaseDate:
+        case AttributeKind::BaseDateOrCell:
+        case AttributeKind::FirstDay:
+        case AttributeKind::ComparedDay:
+        case AttributeKind::Periods:
+        case AttributeKind::Period:
+            break;
     }
+}
+
+/// What makes the cell agree with the other one of its pair, unless that is empty.
+void RecordGenerator::FixByColumn(CellShape& shape,
+                                  const CheckRule& rule,
+                                  long lColumn,
+                                  long lRow) const
+{
+    const bool bOwn = rule.lColumn == lColumn;
+    const std::string strOther = m_table.Cell(lRow, bOwn ? NumberOf(rule.strValue) : rule.lColumn);
+    if (strOther.empty())
+        return;
+    const bool bNumbers = !rule.strMin.empty() || !rule.strMax.empty();
+    const long lOffset = NumberOf(rule.strMin) - NumberOf(rule.strMax);
+    shape.fixed =
+        bNumbers ? std::to_string(NumberOf(strOther) + (bOwn ? lOffset : -lOffset)) : strOther;
 }
 
 std::string RecordGenerator::DrawText(const CellShape& shape)
 {
-    std::string strCharacters =
-        shape.pClass == nullptr ? TEXT_CLASSES[2].szCharacters : shape.pClass->szCharacters;
-    if (m_form.bQuoted && shape.pClass == &TEXT_CLASSES.back())
+    const CellContent eContent = shape.characters.value_or(CellContent::Any);
+    std::string strCharacters = CharactersOf(eContent);
+    if (m_form.bQuoted && eContent == CellContent::FilingCharacters)
         strCharacters += shape.bLineFeeds ? ",\"\n" : ",\"";
     const auto vecCharacter = Characters(strCharacters);
     const auto lWidest =
@@ -785,8 +936,8 @@ std::string RecordGenerator::DrawText(const CellShape& shape)
                           }).size());
     const long lMost = std::min(shape.lMaxCharacters, shape.lMaxBytes / lWidest);
     long lCharacters = Chance(5) ? lMost : Random(1, std::max(1L, std::min(lMost, LONGEST_DRAWN)));
-    if (shape.characters)
-        lCharacters = *shape.characters;
+    if (shape.characterCount)
+        lCharacters = *shape.characterCount;
     if (shape.bytes)
         lCharacters = *shape.bytes / lWidest;
     std::string strText;
@@ -794,10 +945,10 @@ std::string RecordGenerator::DrawText(const CellShape& shape)
         strText += vecCharacter[static_cast<std::size_t>(
             Random(0, static_cast<long>(vecCharacter.size()) - 1))];
     // Digits of an amount seldom begin with 0.
-    if (shape.pClass == &TEXT_CLASSES.front() && strText.size() > 1 && strText.front() == '0' &&
+    if (eContent == CellContent::Digits && strText.size() > 1 && strText.front() == '0' &&
         Chance(80))
         strText.front() = '1';
-    if (shape.pClass == &TEXT_CLASSES.front() && !shape.bytes && Chance(50))
+    if (eContent == CellContent::Digits && !shape.bytes && Chance(50))
         strText.resize(
             static_cast<std::size_t>(Random(1, std::max(1L, static_cast<long>(strText.size())))));
     for (const CheckRule* pRule : shape.vecDigitRule) {

@@ -89,6 +89,7 @@ private:
     struct CellShape;
 
     void MakeUnits();
+    void AddUnitsOf(const CheckRule& rule);
     void AddUnit(UnitKind eKind, const std::vector<long>& vecColumn);
     void AddSpan(UnitKind eKind, long lFirst, long lCount);
 
@@ -105,6 +106,9 @@ private:
     std::vector<std::string> DrawYear(const Unit& unit, long lRow);
     DayRange DrawRange(const Unit& unit, long lRow);
     void NarrowByCheck(DayRange& range, const CheckRule& rule, long lColumn, long lRow);
+    void NarrowByKind(
+        DayRange& range, AttributeKind eKind, const CheckRule& rule, long lColumn, long lRow);
+    void NarrowByFiscalYear(DayRange& range, const CheckRule& rule, long lColumn, long lRow);
     void NarrowByPair(DayRange& range, const CheckRule& rule);
     void NarrowByAge(DayRange& range, const CheckRule& rule, long lColumn, long lRow);
     void NarrowByBaseDate(DayRange& range, const CheckRule& rule, long lColumn, long lRow);
@@ -113,6 +117,9 @@ private:
     std::string DrawCell(const Unit& unit, long lRow);
     CellShape Shape(const Unit& unit, long lRow);
     void AddToShape(CellShape& shape, const CheckRule& rule, long lColumn, long lRow);
+    void AddKindToShape(
+        CellShape& shape, AttributeKind eKind, const CheckRule& rule, long lColumn, long lRow);
+    void FixByColumn(CellShape& shape, const CheckRule& rule, long lColumn, long lRow) const;
     std::string DrawText(const CellShape& shape);
     std::string DrawNumbered(const std::string& strKind);
     std::string DrawPath(const CellShape& shape);

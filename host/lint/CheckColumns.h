@@ -10,11 +10,9 @@ namespace host {
 
 long ReadNumber(const XmlElement& element, const char* szAttribute);
 
-/// Cells from the check's column on; 0 if it doesn't look at its column. The keyword is known.
-long CellsRead(const LintCheck& check, const std::string& strTypeId);
-
-/// Without a column it takes that of the group's first child.
-bool TakesGroupColumn(const LintCheck& check);
+/// Cells from the check's column on that it looks at or whose error stands there; 0 if it needs no
+/// column. The keyword is known.
+long CellsFromColumn(const LintCheck& check, const std::string& strTypeId);
 
 /// From 1; 0 if the item has no child, or its first one no column.
 long FirstChildColumn(const LintForm& form, const LintItem& item);

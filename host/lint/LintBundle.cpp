@@ -90,7 +90,7 @@ constexpr LintTexts SHADOWED_PARENT = {
      "idがreportIdと同じです。これを親とするitemは、このitemではなくreportの下に入ります。"},
     {"Give the item another id.", "別のidにしてください。"}};
 
-LintCheck ReadCheck(const XmlElement& element, long lItemColumn, bool bOuter)
+LintCheck ReadLintCheck(const XmlElement& element, long lItemColumn, bool bOuter)
 {
     LintCheck check;
     check.pElement = &element;
@@ -99,10 +99,11 @@ LintCheck ReadCheck(const XmlElement& element, long lItemColumn, bool bOuter)
     const long lColumn = ReadNumber(element, "column");
     check.bDropped = bOuter && lColumn <= 0;
     check.lColumn = lColumn > 0 ? lColumn : lItemColumn;
+    check.definition = ReadCheck(element, lItemColumn);
     if (!bOuter)
         for (const XmlElement& child : element.vecChild)
             if (child.strName == "outer")
-                check.vecOuter.push_back(ReadCheck(child, 0, true));
+                check.vecOuter.push_back(ReadLintCheck(child, 0, true));
     return check;
 }
 
@@ -121,7 +122,7 @@ LintItem ReadItem(const XmlElement& element, bool bChecks)
     if (bChecks)
         for (const XmlElement& child : element.vecChild)
             if (child.strName == "valid")
-                item.vecCheck.push_back(ReadCheck(child, item.lColumn, false));
+                item.vecCheck.push_back(ReadLintCheck(child, item.lColumn, false));
     return item;
 }
 

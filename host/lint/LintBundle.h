@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Family.h"
+#include "FormDefinition.h"
 #include "KZCDefinitionManager.h"
 #include "XmlTree.h"
 #include "lint/LintReport.h"
@@ -19,6 +20,7 @@ namespace host {
 struct LintCheck
 {
     const XmlElement* pElement = nullptr;
+    CheckDefinition definition;
     const CatalogueItem* pKeyword = nullptr;  ///< null for an unknown keyword
     long lColumn = 0;                         ///< from 1; its own or its item's; 0 for none
     bool bOuter = false;                      ///< a condition

@@ -5,18 +5,19 @@
 #include <string_view>
 
 #include "CText.h"
+#include "CheckShape.h"
 #include "EkaMsgTable.h"
 #include "KZCMacOSNative.h"
 #include "ShiftJis.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintTopics.h"
+#include "validator/AgeWord.h"
+#include "validator/DateGroup.h"
 #include "validator/DateLiteral.h"
 
 namespace host {
 namespace {
 
-constexpr long DATE_CELLS = 4;
-constexpr long YEAR_CELLS = 2;
 constexpr std::size_t DATE_LENGTH = 8;
 constexpr std::string_view OWN_YEAR = "****";
 
@@ -148,6 +149,14 @@ public:
         return CText::SplitTokens(Get(szName));
     }
     const LintCheck& Check() const { return m_check; }
+    const CatalogueItem& Item() const { return *m_check.pKeyword; }
+    /// What the check does without an attribute.
+    Absence AbsenceOf(std::string_view strName) const
+    {
+        const auto* pAttribute = std::ranges::find_if(
+            ATTRIBUTES, [&](Attribute eAttribute) { return strName == AttributeName(eAttribute); });
+        return ShapeOf(Item(), *pAttribute).eAbsence;
+    }
     const LintFile& File() const { return m_file; }
     long Columns() const { return m_form.lColumnNum; }
     const std::string& TypeId() const { return m_form.strTypeId; }
@@ -219,12 +228,41 @@ private:
     LintReport& m_report;
 };
 
-/// A parameter that has to be there. \return Whether it is.
+/// What the check does without the attribute.
+const Text& EffectOf(Absence eAbsence)
+{
+    switch (eAbsence) {
+        case Absence::Fine:
+        case Absence::Fault:
+            break;
+        case Absence::RefusesAll:
+            return ALL_REFUSED;
+        case Absence::PassesAll:
+            return PASSES_ALL;
+        case Absence::CountsAsZero:
+            return NOTHING_GIVEN;
+    }
+    return FAULT;
+}
+
+/// Reports a parameter that isn't there but has to be. \return Whether it is there.
 bool Needs(const Site& site, const char* szName, const Text& wanted)
 {
-    if (!site.Has(szName))
-        site.Bad(szName, FAULT, wanted);
+    if (!site.Has(szName) && site.AbsenceOf(szName) != Absence::Fine)
+        site.Bad(szName, EffectOf(site.AbsenceOf(szName)), wanted);
     return site.Has(szName);
+}
+
+/// Limits of which one has to be there. \param szBlamed  That is named if none is.
+bool NeedsOne(const Site& site, AttributeKind eKind, const char* szBlamed, const Text& wanted)
+{
+    const bool bOne = std::ranges::any_of(ATTRIBUTES, [&](Attribute eAttribute) {
+        return ShapeOf(site.Item(), eAttribute).eKind == eKind &&
+               site.Has(AttributeName(eAttribute));
+    });
+    if (!bOne)
+        site.Bad(szBlamed, EffectOf(site.AbsenceOf(szBlamed)), wanted);
+    return bOne;
 }
 
 void ColumnParameter(const Site& site, const char* szName, long lCells)
@@ -274,10 +312,8 @@ bool IsDayOfEveryYear(const std::string& strMonthAndDay)
 
 void Lengths(const Site& site)
 {
-    if (!site.Has("value") && !site.Has("max")) {
-        site.Bad("max", FAULT, AS_LENGTH);
+    if (!NeedsOne(site, site.Item().shape.max.eKind, "max", AS_LENGTH))
         return;
-    }
     for (const char* szName : {"value", "max"}) {
         if (!site.Has(szName))
             continue;
@@ -291,108 +327,89 @@ void Lengths(const Site& site)
         site.Bad("max", NOT_USED, AS_ONLY_ONE, {"value"});
 }
 
-void TextList(const Site& site)
+void TextList(const Site& site, const char* szName)
 {
-    if (!Needs(site, "value", AS_LIST))
+    if (!Needs(site, szName, AS_LIST))
         return;
-    const auto vecToken = site.Tokens("value");
+    const auto vecToken = site.Tokens(szName);
     if (vecToken.empty())
-        site.Bad("value", NO_TOKEN, AS_LIST);
+        site.Bad(szName, NO_TOKEN, AS_LIST);
     for (auto it = vecToken.begin(); it != vecToken.end(); ++it) {
         const auto strUnits = Utf8::Decode(*it);
         if (!strUnits || !ShiftJis::Encode(*strUnits))
-            site.Bad("value", NOT_ENCODABLE, AS_LIST, {*it});
+            site.Bad(szName, NOT_ENCODABLE, AS_LIST, {*it});
         else if (std::find(vecToken.begin(), it, *it) != it)
-            site.Bad("value", REPEATED, AS_LIST, {*it});
+            site.Bad(szName, REPEATED, AS_LIST, {*it});
     }
 }
 
-void ColumnPair(const Site& site)
+/// Beside the column numbers may be given, which make another value than the cell's own.
+void OtherColumn(const Site& site, const char* szName)
 {
-    if (Needs(site, "value", AS_COLUMN) &&
-        site.IsColumn("value", site.Get("value"), 1, AS_COLUMN, site.Columns()) &&
-        !site.Has("min") && !site.Has("max") &&
-        Site::WholeNumber(site.Get("value")) == site.Check().lColumn)
-        site.Bad("value", ITSELF, AS_COLUMN);
+    if (Needs(site, szName, AS_COLUMN) &&
+        site.IsColumn(szName, site.Get(szName), 1, AS_COLUMN, site.Columns()) && !site.Has("min") &&
+        !site.Has("max") && Site::WholeNumber(site.Get(szName)) == site.Check().lColumn)
+        site.Bad(szName, ITSELF, AS_COLUMN);
+}
+
+void Offsets(const Site& site)
+{
     IsNumberOrAbsent(site, "min");
     IsNumberOrAbsent(site, "max");
 }
 
-void Years(const Site& site)
+void Years(const Site& site, const char* szName)
 {
-    if (!Needs(site, "value", AS_YEARS))
+    if (!Needs(site, szName, AS_YEARS))
         return;
-    const auto vecToken = site.Tokens("value");
+    const auto vecToken = site.Tokens(szName);
     if (vecToken.empty())
-        site.Bad("value", NO_TOKEN, AS_YEARS);
+        site.Bad(szName, NO_TOKEN, AS_YEARS);
     for (const std::string& strToken : vecToken)
         if (strToken.size() != OWN_YEAR.size() || !IsDate(strToken + "0101"))
-            site.Bad("value", NO_YEAR, AS_YEARS, {strToken});
+            site.Bad(szName, NO_YEAR, AS_YEARS, {strToken});
 }
 
-void EqualYear(const Site& site)
+/// One of the words that the item's row names.
+void OneWord(const Site& site, const char* szName, std::string_view strWords)
 {
-    ColumnParameter(site, "value", YEAR_CELLS);
-    IsNumberOrAbsent(site, "min");
-    IsNumberOrAbsent(site, "max");
-}
-
-void OneOf(const Site& site, const char* szWords, bool bNeeded)
-{
-    if (bNeeded && !site.Has("value")) {
-        site.Bad("value", FAULT, AS_ONE_OF, {"", "", "", szWords});
+    const std::string strWanted(strWords);
+    if (!site.Has(szName)) {
+        if (site.AbsenceOf(szName) != Absence::Fine)
+            site.Bad(szName, EffectOf(site.AbsenceOf(szName)), AS_ONE_OF, {"", "", "", strWanted});
         return;
     }
-    const auto vecWord = CText::SplitTokens(szWords);
-    if (site.Has("value") && std::ranges::find(vecWord, site.Get("value")) == vecWord.end())
-        site.Bad("value", UNKNOWN_WORD, AS_ONE_OF, {"", "", "", szWords});
+    const auto vecWord = CText::SplitTokens(strWords);
+    if (std::ranges::find(vecWord, site.Get(szName)) == vecWord.end())
+        site.Bad(szName, UNKNOWN_WORD, AS_ONE_OF, {"", "", "", strWanted});
 }
 
-void LineFeed(const Site& site)
-{
-    OneOf(site, "allow_LF", false);
-}
-
-void KindOfNumber(const Site& site)
-{
-    OneOf(site, "kojin kojin2 hojin seiri", true);
-}
-
-void KindOfPath(const Site& site)
-{
-    OneOf(site, "file dir", true);
-    site.Misplaced(FOR_ARGUMENTS);
-}
-
-void Extensions(const Site& site)
+void Extensions(const Site& site, const char* szName)
 {
     site.Misplaced(FOR_ARGUMENTS);
-    if (!Needs(site, "value", AS_LIST))
+    if (!Needs(site, szName, AS_LIST))
         return;
-    for (const std::string& strToken : site.Tokens("value"))
+    for (const std::string& strToken : site.Tokens(szName))
         if (!strToken.starts_with('.'))
-            site.Bad("value", NO_EXTENSION, AS_LIST, {strToken});
+            site.Bad(szName, NO_EXTENSION, AS_LIST, {strToken});
 }
 
-void NoError(const Site& site)
+void RecordNumber(const Site& site, const char* szName)
 {
-    ColumnList(site, "value");
-    if (!site.Has("min"))
+    if (!Needs(site, szName, AS_RECORD))
         return;
-    const auto record = Site::WholeNumber(site.Get("min"));
+    const auto record = Site::WholeNumber(site.Get(szName));
     if (!record)
-        site.Bad("min", NO_NUMBER, AS_RECORD);
+        site.Bad(szName, NO_NUMBER, AS_RECORD);
     else if (*record < 1 || *record > site.File().MaxRecord())
-        site.Bad("min", NO_SUCH_RECORD, AS_RECORD,
+        site.Bad(szName, NO_SUCH_RECORD, AS_RECORD,
                  {std::to_string(*record), std::to_string(site.File().MaxRecord())});
 }
 
 void Range(const Site& site)
 {
-    if (!site.Has("min") && !site.Has("max")) {
-        site.Bad("max", NOTHING_GIVEN, AS_RANGE);
+    if (!NeedsOne(site, AttributeKind::Limit, "max", AS_RANGE))
         return;
-    }
     for (const char* szName : {"min", "max"})
         if (site.Has(szName) && !KZCMacOSNative::isIntegerString(site.Get(szName).c_str(), true)) {
             site.Bad(szName, DIGIT_LIMIT, AS_RANGE);
@@ -405,24 +422,13 @@ void Range(const Site& site)
                  {std::to_string(lMin), std::to_string(lMax)});
 }
 
-void AnyInRange(const Site& site)
-{
-    ColumnList(site, "value");
-    Range(site);
-}
-
-void AnyFilled(const Site& site)
-{
-    ColumnList(site, "value");
-}
-
 void DatePeriods(const Site& site)
 {
     const auto vecMin = site.Tokens("min");
     const auto vecMax = site.Tokens("max");
     for (const auto& [szName, vecDate] : {std::pair{"min", &vecMin}, {"max", &vecMax}})
         if (vecDate->empty()) {
-            site.Bad(szName, ALL_REFUSED, AS_DATES);
+            site.Bad(szName, EffectOf(site.AbsenceOf(szName)), AS_DATES);
             return;
         }
     if (vecMin.size() != vecMax.size())
@@ -451,30 +457,14 @@ void DatePeriods(const Site& site)
 }
 
 /// A date that has to be there. \return Whether it is one.
-bool DateParameter(const Site& site, const char* szName, const Text& absent)
+bool DateParameter(const Site& site, const char* szName)
 {
+    if (!Needs(site, szName, AS_DATE))
+        return false;
     const bool bGood = IsDate(site.Get(szName));
-    if (!site.Has(szName))
-        site.Bad(szName, absent, AS_DATE);
-    else if (!bGood)
+    if (!bGood)
         site.Bad(szName, NO_DATE, AS_DATE, {site.Get(szName)});
     return bGood;
-}
-
-void Onward(const Site& site)
-{
-    DateParameter(site, "value", FAULT);
-}
-
-void DateAndYearColumn(const Site& site)
-{
-    DateParameter(site, "min", FAULT);
-    ColumnParameter(site, "max", YEAR_CELLS);
-}
-
-void YearColumn(const Site& site)
-{
-    ColumnParameter(site, "value", YEAR_CELLS);
 }
 
 void DatePeriod(const Site& site)
@@ -485,8 +475,8 @@ void DatePeriod(const Site& site)
             return;
         }
     }
-    const bool bMin = DateParameter(site, "min", ALL_REFUSED);
-    const bool bMax = DateParameter(site, "max", ALL_REFUSED);
+    const bool bMin = DateParameter(site, "min");
+    const bool bMax = DateParameter(site, "max");
     if (bMin && bMax && site.Get("min") > site.Get("max"))
         site.Bad("max", REVERSED, AS_DATE, {site.Get("min"), site.Get("max")});
 }
@@ -516,17 +506,17 @@ void Reference(const Site& site, const char* szName)
     site.IsColumn(szName, strText.substr(nSplit + 1), DATE_CELLS, AS_REFERENCE, lColumns);
 }
 
-void DateBetweenColumns(const Site& site)
+/// Columns of the record or, beside a cell of another record that is checked, dates.
+void BaseDates(const Site& site)
 {
-    if (!site.Has("value")) {
-        if (!site.Has("min") && !site.Has("max"))
-            site.Bad("min", PASSES_ALL, AS_COLUMN);
-        for (const char* szName : {"min", "max"})
-            if (site.Has(szName))
-                ColumnParameter(site, szName, DATE_CELLS);
+    if (!HasKind(site.Item(), AttributeKind::DateCell) ||
+        !site.Has(AttributeName(AttributeOf(site.Item(), AttributeKind::DateCell)))) {
+        if (NeedsOne(site, AttributeKind::BaseDate, "min", AS_COLUMN))
+            for (const char* szName : {"min", "max"})
+                if (site.Has(szName))
+                    ColumnParameter(site, szName, DATE_CELLS);
         return;
     }
-    Reference(site, "value");
     if (!site.Has("min") && !site.Has("max"))
         site.Bad("min", ALL_REFUSED, AS_WESTERN);
     for (const char* szName : {"min", "max"})
@@ -534,11 +524,9 @@ void DateBetweenColumns(const Site& site)
             site.Bad(szName, NO_DATE_UNUSED, AS_WESTERN, {site.Get(szName)});
 }
 
-void DateBetweenCells(const Site& site)
+void BaseDatesOrCells(const Site& site)
 {
-    OneOf(site, "include", false);
-    if (!site.Has("min") && !site.Has("max"))
-        site.Bad("min", ALL_REFUSED, AS_BOUND);
+    NeedsOne(site, AttributeKind::BaseDateOrCell, "min", AS_BOUND);
     for (const char* szName : {"min", "max"}) {
         const std::string& strText = site.Get(szName);
         if (strText.empty())
@@ -565,52 +553,67 @@ void ComparedDate(const Site& site)
             site.Bad(szName, NOT_EIGHT, AS_DATE);
         } else {
             szTaken = szName;
-            DateParameter(site, szName, FAULT);
+            DateParameter(site, szName);
         }
     }
-    if (!site.Has("value") && !site.Has("min") && !site.Has("max"))
-        site.Bad("value", FAULT, AS_DATE);
+    NeedsOne(site, AttributeKind::ComparedDay, "value", AS_DATE);
 }
 
-void Age(const Site& site)
+bool HasAgeWords(const Site& site, const char* szName)
 {
-    constexpr std::size_t LEAST = 5;
-    if (!Needs(site, "value", AS_AGE))
+    return site.Tokens(szName).size() >= AgeWord::LEAST;
+}
+
+void AgeColumns(const Site& site, const char* szName)
+{
+    if (!Needs(site, szName, AS_AGE))
         return;
-    const auto vecToken = site.Tokens("value");
+    const auto vecToken = site.Tokens(szName);
     const std::string strCount = std::to_string(vecToken.size());
-    if (vecToken.size() < LEAST) {
-        site.Bad("value", TOO_FEW, AS_AGE, {strCount});
+    if (!HasAgeWords(site, szName)) {
+        site.Bad(szName, TOO_FEW, AS_AGE, {strCount});
         return;
     }
-    if (vecToken.size() > LEAST + 1)
-        site.Bad("value", TOO_MANY, AS_AGE, {strCount});
-    else if (vecToken.size() == LEAST + 1 && vecToken[LEAST] != "days")
-        site.Bad("value", NOT_DAYS, AS_AGE, {vecToken[LEAST]});
-    site.IsColumn("value", vecToken[0], DATE_CELLS, AS_AGE, site.Columns());
-    site.IsColumn("value", vecToken[1], YEAR_CELLS, AS_AGE, site.Columns());
-    if (!Site::WholeNumber(vecToken[2]))
-        site.Bad("value", NO_NUMBER, AS_AGE);
-    if (!Exists("2019/" + vecToken[3] + "/" + vecToken[4]))
-        site.Bad("value", NO_DAY, AS_AGE, {vecToken[3], vecToken[4]});
+    if (vecToken.size() > AgeWord::WIDENING + 1)
+        site.Bad(szName, TOO_MANY, AS_AGE, {strCount});
+    else if (vecToken.size() > AgeWord::WIDENING &&
+             vecToken[AgeWord::WIDENING] != AgeWord::WIDENING_WORD)
+        site.Bad(szName, NOT_DAYS, AS_AGE, {vecToken[AgeWord::WIDENING]});
+    site.IsColumn(szName, vecToken[AgeWord::BIRTH_COLUMN], DATE_CELLS, AS_AGE, site.Columns());
+    site.IsColumn(szName, vecToken[AgeWord::YEAR_COLUMN], YEAR_CELLS, AS_AGE, site.Columns());
+    if (!Site::WholeNumber(vecToken[AgeWord::ADDED_YEARS]))
+        site.Bad(szName, NO_NUMBER, AS_AGE);
+    const std::string& strMonth = vecToken[AgeWord::MONTH];
+    const std::string& strDay = vecToken[AgeWord::DAY];
+    if (!Exists("2019/" + strMonth + "/" + strDay))
+        site.Bad(szName, NO_DAY, AS_AGE, {strMonth, strDay});
+}
+
+void AgeLimits(const Site& site)
+{
+    // Without its words the check says nothing of an age.
+    if (!HasAgeWords(site, AttributeName(AttributeOf(site.Item(), AttributeKind::AgeColumns))))
+        return;
     const bool bMin = IsNumberOrAbsent(site, "min");
     const bool bMax = IsNumberOrAbsent(site, "max");
-    if (!site.Has("min") && !site.Has("max"))
-        site.Bad("min", PASSES_ALL, AS_NUMBER);
-    else if (site.Has("min") && site.Has("max") && bMin && bMax &&
-             Site::WholeNumber(site.Get("min")) > Site::WholeNumber(site.Get("max")))
+    if (NeedsOne(site, AttributeKind::AgeLimit, "min", AS_NUMBER) && site.Has("min") &&
+        site.Has("max") && bMin && bMax &&
+        Site::WholeNumber(site.Get("min")) > Site::WholeNumber(site.Get("max")))
         site.Bad("max", REVERSED, AS_RANGE, {site.Get("min"), site.Get("max")});
 }
 
-void Positions(const Site& site)
+void Positions(const Site& site, const char* szName)
 {
-    if (Needs(site, "value", AS_COLUMNS))
-        for (const std::string& strToken : site.Tokens("value"))
-            if (!site.IsColumn("value", strToken, 1, AS_COLUMNS, 0))
+    if (Needs(site, szName, AS_COLUMNS))
+        for (const std::string& strToken : site.Tokens(szName))
+            if (!site.IsColumn(szName, strToken, 1, AS_COLUMNS, 0))
                 break;
-    if (!site.Has("min") && !site.Has("max"))
-        site.Bad("max", FAULT, AS_BYTES);
-    else if (site.Has("min") && site.Has("max"))
+}
+
+void CharactersAtPositions(const Site& site)
+{
+    if (NeedsOne(site, AttributeKind::Characters, "max", AS_BYTES) && site.Has("min") &&
+        site.Has("max"))
         site.Bad("min", NOT_USED, AS_ONLY_ONE, {"max"});
     for (const char* szName : {"min", "max"})
         for (const std::string& strToken : site.Tokens(szName))
@@ -618,76 +621,132 @@ void Positions(const Site& site)
                 site.Bad(szName, ONE_CHARACTER, AS_BYTES, {strToken});
 }
 
-void WesternDate(const Site& site)
+void WesternDate(const Site& site, const char* szName)
 {
-    if (!Needs(site, "value", AS_COLUMNS))
+    if (!Needs(site, szName, AS_COLUMNS))
         return;
-    const std::string& strValue = site.Get("value");
-    const auto vecToken = site.Tokens("value");
+    const std::string& strValue = site.Get(szName);
+    const auto vecToken = site.Tokens(szName);
     // A blank more makes an empty piece, which is no number.
     const bool bTight = !strValue.starts_with(' ') && !strValue.ends_with(' ') &&
                         strValue.find("  ") == std::string::npos;
     if (vecToken.size() != 3 || !bTight) {
-        site.Bad("value", THREE_COLUMNS, AS_COLUMNS);
+        site.Bad(szName, THREE_COLUMNS, AS_COLUMNS);
         return;
     }
     for (const std::string& strToken : vecToken)
-        if (!site.IsColumn("value", strToken, 1, AS_COLUMNS, site.Columns()))
+        if (!site.IsColumn(szName, strToken, 1, AS_COLUMNS, site.Columns()))
             return;
 }
 
-void GroupOfKind(const Site& site)
+/// The attributes of one kind. \param szName  The first of them.
+void LookAtKind(const Site& site, AttributeKind eKind, const char* szName)
 {
-    static constexpr std::array<std::string_view, 6> FORMS = {"003", "004", "005",
-                                                              "006", "007", "009"};
-    if (std::ranges::find(FORMS, site.TypeId()) == FORMS.end())
-        site.Misplaced(FOR_FORMS);
+    switch (eKind) {
+        case AttributeKind::None:
+            break;
+        case AttributeKind::Texts:
+        case AttributeKind::ForbiddenTexts:
+            TextList(site, szName);
+            break;
+        case AttributeKind::Extensions:
+            Extensions(site, szName);
+            break;
+        case AttributeKind::Positions:
+            Positions(site, szName);
+            break;
+        case AttributeKind::Characters:
+            CharactersAtPositions(site);
+            break;
+        case AttributeKind::PathKind:
+        case AttributeKind::NumberKind:
+        case AttributeKind::LineFeeds:
+        case AttributeKind::LimitsIncluded:
+            OneWord(site, szName, ShapeOf(site.Item(), AttributeOf(site.Item(), eKind)).strWords);
+            if (eKind == AttributeKind::PathKind)
+                site.Misplaced(FOR_ARGUMENTS);
+            break;
+        case AttributeKind::ByteCount:
+        case AttributeKind::CharacterCount:
+            Lengths(site);
+            break;
+        case AttributeKind::Limit:
+            Range(site);
+            break;
+        case AttributeKind::AgeLimit:
+            AgeLimits(site);
+            break;
+        case AttributeKind::Offset:
+            Offsets(site);
+            break;
+        case AttributeKind::Years:
+            Years(site, szName);
+            break;
+        case AttributeKind::Record:
+            RecordNumber(site, szName);
+            break;
+        case AttributeKind::EqualColumn:
+        case AttributeKind::UnequalColumn:
+            OtherColumn(site, szName);
+            break;
+        case AttributeKind::AnyColumn:
+        case AttributeKind::ErrorColumns:
+            ColumnList(site, szName);
+            break;
+        case AttributeKind::WesternDateColumns:
+            WesternDate(site, szName);
+            break;
+        case AttributeKind::EqualYearColumn:
+        case AttributeKind::FiscalYearColumn:
+            ColumnParameter(site, szName, YEAR_CELLS);
+            break;
+        case AttributeKind::AgeColumns:
+            AgeColumns(site, szName);
+            break;
+        case AttributeKind::DateCell:
+            if (site.Has(szName))
+                Reference(site, szName);
+            break;
+        case AttributeKind::BaseDate:
+            BaseDates(site);
+            break;
+        case AttributeKind::BaseDateOrCell:
+            BaseDatesOrCells(site);
+            break;
+        case AttributeKind::FirstDay:
+            DateParameter(site, szName);
+            break;
+        case AttributeKind::ComparedDay:
+            ComparedDate(site);
+            break;
+        case AttributeKind::Periods:
+            DatePeriods(site);
+            break;
+        case AttributeKind::Period:
+            DatePeriod(site);
+            break;
+    }
 }
 
-void OfficeName(const Site& site)
+/// Where the cells that the check looks at are none.
+void LookAtOwnCells(const Site& site)
 {
-    if (site.Check().bOuter)
-        site.Misplaced(NO_CONDITION);
+    switch (site.Item().shape.eCells) {
+        case OwnCells::None:
+        case OwnCells::Cell:
+        case OwnCells::Year:
+        case OwnCells::Date:
+            break;
+        case OwnCells::GroupOfKind:
+            if (DateGroupColumns(site.TypeId()) == 0)
+                site.Misplaced(FOR_FORMS);
+            break;
+        case OwnCells::OfficeName:
+            if (site.Check().bOuter)
+                site.Misplaced(NO_CONDITION);
+            break;
+    }
 }
-
-struct KeywordRule
-{
-    std::string_view strKeyword;
-    void (*pLook)(const Site& site);
-};
-
-/// What a keyword's parameters have to be. Keywords without a row read none.
-constexpr auto KEYWORD_RULES = std::to_array<KeywordRule>({
-    {"age", Age},
-    {"anycontain", AnyInRange},
-    {"anyexist", AnyFilled},
-    {"charlength", Lengths},
-    {"checkdigit", KindOfNumber},
-    {"compdate", ComparedDate},
-    {"contain", TextList},
-    {"containcolumn", ColumnPair},
-    {"containyear", Years},
-    {"digitequality", Positions},
-    {"equalyear", EqualYear},
-    {"except", TextList},
-    {"exceptcolumn", ColumnPair},
-    {"exist_2", GroupOfKind},
-    {"existdateYYYYMMDD", WesternDate},
-    {"existpath", KindOfPath},
-    {"extension", Extensions},
-    {"length", Lengths},
-    {"lvystring", LineFeed},
-    {"nonerr", NoError},
-    {"onward", Onward},
-    {"range", Range},
-    {"rangebasedate", DateBetweenColumns},
-    {"rangebasedate_2", DateBetweenCells},
-    {"rangedate", DatePeriods},
-    {"rangedate_2", DateAndYearColumn},
-    {"rangedate_3", YearColumn},
-    {"rangedate_4", DatePeriod},
-    {"taxofficenm", OfficeName},
-});
 
 void LookAtKeyword(const LintFile& file,
                    const LintForm& form,
@@ -705,9 +764,10 @@ void LookAtKeyword(const LintFile& file,
                    strMeant.empty() ? UNKNOWN_KEYWORD : MISSPELT_KEYWORD, {strKeyword, strMeant});
         return;
     }
-    const auto pRule = std::ranges::find(KEYWORD_RULES, strKeyword, &KeywordRule::strKeyword);
-    if (pRule != KEYWORD_RULES.end())
-        pRule->pLook(Site(file, form, check, report));
+    const Site site(file, form, check, report);
+    for (const AttributeKind eKind : KindsOf(*check.pKeyword))
+        LookAtKind(site, eKind, AttributeName(AttributeOf(*check.pKeyword, eKind)));
+    LookAtOwnCells(site);
 }
 
 void LookAtCheck(const LintFile& file,

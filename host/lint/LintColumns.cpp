@@ -4,6 +4,7 @@
 #include <iterator>
 #include <set>
 
+#include "CheckShape.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintTopics.h"
 
@@ -121,8 +122,9 @@ private:
             return;
         long lWidth = 0;
         for (const LintCheck& check : item.vecCheck)
-            if (check.lColumn == 0 && check.pKeyword != nullptr && TakesGroupColumn(check))
-                lWidth = std::max(lWidth, CellsRead(check, m_form.strTypeId));
+            if (check.lColumn == 0 && check.pKeyword != nullptr &&
+                TakesGroupColumn(check.pKeyword->shape.ePlace))
+                lWidth = std::max(lWidth, CellsFromColumn(check, m_form.strTypeId));
         static constexpr std::array<const char*, 4> PARTS = {"gen:era", "gen:yy", "gen:mm",
                                                              "gen:dd"};
         for (std::size_t nChild = 1; nChild < std::min(item.vecChild.size(), PARTS.size());
@@ -154,14 +156,14 @@ private:
 
     void LookAtCells(const LintItem& item, const LintCheck& check)
     {
-        const long lCells = CellsRead(check, m_form.strTypeId);
+        const long lCells = CellsFromColumn(check, m_form.strTypeId);
         const std::string strKeyword(check.pKeyword->strKeyword);
         long lColumn = check.lColumn;
         if (lColumn == 0 && item.IsGroup() && !check.bOuter) {
             lColumn = FirstChildColumn(m_form, item);
             if (lColumn == 0)
                 return;  // it never runs
-            if (!TakesGroupColumn(check)) {
+            if (!TakesGroupColumn(check.pKeyword->shape.ePlace)) {
                 if (lCells > 0)
                     Add(LintRule::MissingColumn, check.pElement, GROUP_CHECK_WITHOUT, {strKeyword});
                 return;
@@ -188,16 +190,15 @@ private:
         if (check.bOuter)
             return;
         constexpr long MORE = 3;
-        const auto place = check.pKeyword->ePlace;
-        const bool bColumn = place == ErrorPlace::PairOrColumn ||
-                             place == ErrorPlace::DateOrColumn || place == ErrorPlace::DateOrCell;
-        if (bColumn && !check.pElement->Attribute("errcolumn").empty() && m_form.lColumnNum > 0) {
+        const ErrorPlace place = check.pKeyword->shape.ePlace;
+        if (ReadsErrColumn(place) && !check.pElement->Attribute("errcolumn").empty() &&
+            m_form.lColumnNum > 0) {
             const long lFirst = ReadNumber(*check.pElement, "errcolumn");
             if (lFirst < 1 || lFirst + MORE > m_form.lColumnNum)
                 Add(LintRule::ErrorPlaceBeyond, check.pElement, ERROR_COLUMN,
                     {Number(lFirst), Number(lFirst + MORE), Number(m_form.lColumnNum)});
         }
-        if (place == ErrorPlace::DateOrCell && !check.pElement->Attribute("errrow").empty()) {
+        if (ReadsErrRow(place) && !check.pElement->Attribute("errrow").empty()) {
             const long lRow = ReadNumber(*check.pElement, "errrow");
             if (lRow < 1 || lRow > m_file.MaxRecord())
                 Add(LintRule::ErrorPlaceBeyond, check.pElement, ERROR_ROW,

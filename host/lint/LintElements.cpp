@@ -4,6 +4,7 @@
 #include <span>
 #include <string_view>
 
+#include "CheckShape.h"
 #include "lint/LintTopics.h"
 
 namespace host {
@@ -29,7 +30,7 @@ struct AttributeRow
 };
 
 /// The base family's nodes read the steps and repeated heads of items, too, though without effect.
-constexpr auto ATTRIBUTES = std::to_array<AttributeRow>({
+constexpr auto ELEMENT_ATTRIBUTES = std::to_array<AttributeRow>({
     {"report", "id", BASE},
     {"report", "columnNum", BASE | CHECKS, true},
     {"report", "procId", ALL},
@@ -150,16 +151,16 @@ unsigned ReaderOf(LintRole eRole)
 
 const AttributeRow* FindAttribute(std::string_view strElement, std::string_view strName)
 {
-    const auto pRow = std::ranges::find_if(ATTRIBUTES, [&](const AttributeRow& row) {
+    const auto pRow = std::ranges::find_if(ELEMENT_ATTRIBUTES, [&](const AttributeRow& row) {
         return row.strElement == strElement && row.strName == strName;
     });
-    return pRow != ATTRIBUTES.end() ? &*pRow : nullptr;
+    return pRow != ELEMENT_ATTRIBUTES.end() ? &*pRow : nullptr;
 }
 
 Names AttributesOf(std::string_view strElement)
 {
     Names names;
-    for (const AttributeRow& row : ATTRIBUTES)
+    for (const AttributeRow& row : ELEMENT_ATTRIBUTES)
         if (row.strElement == strElement)
             names.emplace_back(row.strName);
     return names;
@@ -251,23 +252,10 @@ void LookAtFlag(const LintPlace& place,
 std::string AttributesReadBy(const CatalogueItem& keyword)
 {
     std::string strNames = "column";
-    for (const auto& [bRead, szName] :
-         {std::pair{keyword.bValue, "value"}, {keyword.bMin, "min"}, {keyword.bMax, "max"}})
-        if (bRead)
-            strNames += std::string(", ") + szName;
+    for (const Attribute eAttribute : ATTRIBUTES)
+        if (ShapeOf(keyword, eAttribute).IsRead())
+            strNames += std::string(", ") + AttributeName(eAttribute);
     return strNames;
-}
-
-bool ReadsErrColumn(const CatalogueItem& keyword)
-{
-    return keyword.strKeyword == "containyear" || keyword.strKeyword == "rangebasedate" ||
-           keyword.strKeyword == "rangebasedate_2";
-}
-
-bool ReadsMessage(const CatalogueItem& keyword)
-{
-    // nonerr records nothing; exist_2 records a code of its own.
-    return keyword.strKeyword != "nonerr" && keyword.strKeyword != "exist_2";
 }
 
 /// Attributes that the keyword drops.
@@ -280,12 +268,12 @@ void LookAtCheck(const std::string& strFile, const LintCheck& check, LintReport&
     const CatalogueItem& keyword = *check.pKeyword;
     const std::string strRead = AttributesReadBy(keyword);
     const std::pair<const char*, bool> attributes[] = {
-        {"value", keyword.bValue},
-        {"min", keyword.bMin},
-        {"max", keyword.bMax},
-        {"errcolumn", check.bOuter || ReadsErrColumn(keyword)},
-        {"errrow", check.bOuter || keyword.strKeyword == "rangebasedate"},
-        {"message", check.bOuter || ReadsMessage(keyword)},
+        {"value", keyword.shape.value.IsRead()},
+        {"min", keyword.shape.min.IsRead()},
+        {"max", keyword.shape.max.IsRead()},
+        {"errcolumn", check.bOuter || ReadsErrColumn(keyword.shape.ePlace)},
+        {"errrow", check.bOuter || ReadsErrRow(keyword.shape.ePlace)},
+        {"message", check.bOuter || ReadsMessage(keyword.shape.ePlace)},
     };
     for (const auto& [szName, bRead] : attributes)
         if (!bRead && !check.pElement->Attribute(szName).empty())

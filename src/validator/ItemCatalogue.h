@@ -44,6 +44,7 @@
 #include <string_view>
 
 #include "EkaMsgTable.h"
+#include "validator/ItemShape.h"
 
 /// The same words in both languages, in UTF-8.
 struct ItemWords
@@ -52,31 +53,12 @@ struct ItemWords
     const char* szJapanese = "";
 };
 
-/// Which columns an error of a check item covers.
-enum class ErrorPlace
-{
-    None,           ///< it records no error
-    Cell,           ///< the item's column
-    Pair,           ///< that and the next one: era and year, or name and code
-    Date,           ///< four columns from the item's: era, year, month, day
-    PairOrColumn,   ///< as Pair, or four columns from errcolumn if it is given
-    DateOrColumn,   ///< as Date, or four columns from errcolumn if it is given
-    DateOrCell,     ///< the same, in the record of errrow if it is given
-    GroupOfKind,    ///< four or two columns from the item's, by the kind of the record
-    CellOrDate,     ///< as Date if value has "days" for its sixth word, otherwise as Cell
-    YearOfMax,      ///< two columns from the column in max
-    ColumnsOfValue  ///< from the first to the last column in value
-};
-
 struct CatalogueItem
 {
     std::string_view strKeyword;
-    bool bValue;  ///< reads the attribute value; the others are dropped
-    bool bMin;
-    bool bMax;
+    ItemShape shape;                            ///< attributes without a shape are dropped
     std::span<const KZCEkaMessage_t> messages;  ///< its own, in the order of their codes
-    ErrorPlace ePlace;
-    ItemWords rule;         ///< template: what a cell must be
+    ItemWords rule;                             ///< template: what a cell must be
     ItemWords description;  ///< sentences, names and words of parameters in `backquotes`
     /// Template: the rule as a condition, a clause without its "if". Empty if the rule itself can
     /// be said of a column.

@@ -3,16 +3,9 @@
 #include "CText.h"
 #include "Fault.h"
 #include "KZCValidResult.h"
+#include "validator/AgeWord.h"
 
 namespace {
-
-/// Places in the parameter.
-constexpr std::size_t BIRTH_COLUMN = 0;
-constexpr std::size_t YEAR_COLUMN = 1;
-constexpr std::size_t ADDED_YEARS = 2;
-constexpr std::size_t MONTH = 3;
-constexpr std::size_t DAY = 4;
-constexpr std::size_t WIDENING = 5;
 
 std::optional<int> ReadLimit(const char* szLimit)
 {
@@ -41,7 +34,8 @@ int KZCEkaValidAge::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lColu
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
     const long lErrorColumn = CheckedColumn(lColumn) + 1;
-    const bool bWide = m_vecToken.size() > WIDENING && m_vecToken[WIDENING] == "days";
+    const bool bWide = m_vecToken.size() > AgeWord::WIDENING &&
+                       m_vecToken[AgeWord::WIDENING] == AgeWord::WIDENING_WORD;
     return RecordDate(eRefusal, lRow + 1,
                       {lErrorColumn, bWide ? lErrorColumn + DATE_COLUMNS : SINGLE_COLUMN},
                       dates.strBirthDate);
@@ -61,9 +55,9 @@ KZCEkaValidAge::Dates KZCEkaValidAge::ReadDates(const KZCEkaCsvFile* pCsv, long 
     constexpr const char* FUNCTION = "KZCEkaValidAge::ReadDates";
     if (!m_bGiven)
         RaiseParameterFault(FUNCTION);
-    const long lBirthColumn = CText::ReadLong(m_vecToken.at(BIRTH_COLUMN).c_str());
+    const long lBirthColumn = CText::ReadLong(m_vecToken.at(AgeWord::BIRTH_COLUMN).c_str());
     std::string strBirthDate = GetDateString(pCsv, lRow, lBirthColumn - 1);
-    const long lYearColumn = CText::ReadLong(m_vecToken.at(YEAR_COLUMN).c_str());
+    const long lYearColumn = CText::ReadLong(m_vecToken.at(AgeWord::YEAR_COLUMN).c_str());
     if (lYearColumn < 1)
         RaiseParameterFault(FUNCTION);
     return {std::move(strBirthDate), GetYearString(pCsv, lRow, lYearColumn - 1)};
@@ -74,17 +68,19 @@ KZCEkaMessage_t KZCEkaValidAge::_validate(const char* szBirthDate, const char* s
     constexpr const char* FUNCTION = "KZCEkaValidAge::_validate";
     stSYSTEMTIME birth = {};
     stSYSTEMTIME reference = {};
-    if (m_vecToken.size() <= DAY ||
-        !StringToSystemTime(
-            (std::string(szYear) + "/" + m_vecToken[MONTH] + "/" + m_vecToken[DAY]).c_str(),
-            reference) ||
+    if (m_vecToken.size() <= AgeWord::DAY ||
+        !StringToSystemTime((std::string(szYear) + "/" + m_vecToken[AgeWord::MONTH] + "/" +
+                             m_vecToken[AgeWord::DAY])
+                                .c_str(),
+                            reference) ||
         !StringToSystemTime(szBirthDate, birth))
         return Refuse(HE70010E, FUNCTION, "日付の変換に失敗しました。");
 
     const auto wReferenceYear = static_cast<std::uint16_t>(
-        reference.wYear + static_cast<long>(CText::ReadInt(m_vecToken[ADDED_YEARS].c_str())));
-    const int nMonth = CText::ReadInt(m_vecToken[MONTH].c_str());
-    const int nDay = CText::ReadInt(m_vecToken[DAY].c_str());
+        reference.wYear +
+        static_cast<long>(CText::ReadInt(m_vecToken[AgeWord::ADDED_YEARS].c_str())));
+    const int nMonth = CText::ReadInt(m_vecToken[AgeWord::MONTH].c_str());
+    const int nDay = CText::ReadInt(m_vecToken[AgeWord::DAY].c_str());
     const bool bBeforeBirthday =
         nMonth < birth.wMonth || (nMonth == birth.wMonth && nDay < birth.wDay);
     const int nAge = wReferenceYear - birth.wYear - (bBeforeBirthday ? 1 : 0);

@@ -76,13 +76,19 @@ ItemPtr MakeItem(long lColumn, KZCEkaMessage_t eMessage, [[maybe_unused]] const 
     return pItem;
 }
 
-/// How an item is made, and which attributes it reads.
+/// How an item is made, and which attributes reach it.
 struct Maker
 {
     ItemPtr (*pMake)(long lColumn, KZCEkaMessage_t eMessage, const ItemParam& param);
     bool bValue;
     bool bMin;
     bool bMax;
+
+    constexpr bool Fits(const ItemShape& shape) const
+    {
+        return bValue == shape.value.IsRead() && bMin == shape.min.IsRead() &&
+               bMax == shape.max.IsRead();
+    }
 };
 
 template <class Item, const char* ItemParam::*... pParam>
@@ -96,22 +102,22 @@ struct ItemKeyword
 {
     std::string_view strKeyword;
     Maker maker;
+    ItemShape shape;
     std::span<const KZCEkaMessage_t> messages;  ///< that the class itself reports
-    ErrorPlace ePlace;
     ItemWords rule;
     ItemWords description;
     ItemWords condition = {};
 };
 
-/// The one place where a keyword meets its class, its attributes and its words: the rule as a
-/// template, a description and, where the rule can't be said of a column, the rule as a condition.
-/// An attribute that a row doesn't name is dropped.
+/// The one place where a keyword meets its class, its shape and its words: the rule as a template,
+/// a description and, where the rule can't be said of a column, the rule as a condition. An
+/// attribute that a row doesn't name is dropped.
 constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "alnum",
         Make<KZCEkaValidAlnum>,
+        {.eContent = CellContent::LettersAndDigits},
         CODES<HE70006E>,
-        ErrorPlace::Cell,
         {"half-width letters, digits, blanks and hyphens", "半角英数字・半角空白・半角ハイフン"},
         {"Half-width letters, digits, blanks and hyphens only. An empty value passes.",
          "半角の英字、数字、空白、ハイフンだけの値です。空の値は通ります。"},
@@ -119,8 +125,9 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "charlength",
         Make<KZCEkaValidCharlength, VALUE, MAX>,
+        {.value = {AttributeKind::CharacterCount, Absence::Fault},
+         .max = {AttributeKind::CharacterCount, Absence::Fault}},
         CODES<HE70007E>,
-        ErrorPlace::Cell,
         {"[{value} character{value:s}|up to {max} character{max:s}]",
          "[{value}文字|{max}文字以内]"},
         {"Exactly `value` characters or, without `value`, `max` at most. Half-width and "
@@ -131,8 +138,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "contain",
         Make<KZCEkaValidContain, VALUE>,
+        {.value = {AttributeKind::Texts, Absence::Fault}},
         CODES<HE70009E>,
-        ErrorPlace::Cell,
         {"{value:list}", "{value:one-of}"},
         {"One of the texts listed in `value`, as a whole. An empty value is refused.",
          "`value`に空白で区切って並べた文字列のどれかと一致すること。空の値は通りません。"},
@@ -140,8 +147,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "containcolumn",
         Make<KZCEkaValidContainColumn, VALUE, MIN, MAX>,
+        {.value = {AttributeKind::EqualColumn, Absence::Fault},
+         .min = {AttributeKind::Offset},
+         .max = {AttributeKind::Offset}},
         CODES<HE70025E>,
-        ErrorPlace::Cell,
         {"[{min:sum}|{max:sum}|the same value as {value:column}]",
          "[{min:sum}|{max:sum}|{value:column}と同じ値]"},
         {"The same text as in the column `value`. With `min` or `max` numbers are compared: this "
@@ -152,8 +161,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "containyear",
         Make<KZCEkaValidContainYear, VALUE>,
+        {.eCells = OwnCells::Year,
+         .value = {AttributeKind::Years, Absence::Fault},
+         .ePlace = ErrorPlace::PairOrColumn},
         CODES<HE70025E>,
-        ErrorPlace::PairOrColumn,
         {"Western year {value:years}", "西暦{value:years}年"},
         {"The Western year of an era and a year is listed in `value`. A year that can't be read "
          "is refused.",
@@ -163,8 +174,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "empty",
         Make<KZCEkaValidEmpty>,
+        {.eContent = CellContent::Empty},
         CODES<HE70005E>,
-        ErrorPlace::Cell,
         {"must be empty", "入力不可"},
         {"Nothing is written in the column.", "項目に何も入力されていないこと。"},
         {"{column:own} is empty", "{column:own}が空である"},
@@ -172,8 +183,12 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "equalyear",
         Make<KZCEkaValidEqualyear, VALUE, MIN, MAX>,
+        {.eCells = OwnCells::Year,
+         .value = {AttributeKind::EqualYearColumn, Absence::Fault},
+         .min = {AttributeKind::Offset},
+         .max = {AttributeKind::Offset},
+         .ePlace = ErrorPlace::Pair},
         CODES<HE70025E>,
-        ErrorPlace::Pair,
         {"{value:year-sum}", "{value:year-sum}"},
         {"The year is that in the column `value` plus `max` less `min`. It passes if one of the "
          "two can't be read.",
@@ -183,8 +198,9 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "lvystring",
         Make<KZCEkaValidLvystring, VALUE>,
+        {.eContent = CellContent::FilingCharacters,
+         .value = {AttributeKind::LineFeeds, Absence::Fine, "allow_LF"}},
         CODES<HE70006E>,
-        ErrorPlace::Cell,
         {"characters that a filing may carry (no half-width katakana, no emoji, "
          "[{value=allow_LF}line feeds allowed|no line feeds])",
          "申告に使用できる文字（半角カタカナ・絵文字などは不可、改行は[{value=allow_LF}可|不可]）"},
@@ -198,8 +214,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "except",
         Make<KZCEkaValidExcept, VALUE>,
+        {.value = {AttributeKind::ForbiddenTexts, Absence::Fault}},
         CODES<HE99999E>,
-        ErrorPlace::Cell,
         {"not {value:list}", "{value:list}以外"},
         {"None of the texts listed in `value`, each compared as a whole. An empty value passes.",
          "`value`に空白で区切って並べた文字列のどれとも一致しないこと。空の値は通ります。"},
@@ -208,8 +224,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "exist",
         Make<KZCEkaValidExist>,
+        {.eContent = CellContent::Filled},
         CODES<HE70001E>,
-        ErrorPlace::Cell,
         {"required", "必須"},
         {"Something is written in the column.", "項目に値が入力されていること。"},
         {"{column:own} is filled", "{column:own}が入力されている"},
@@ -217,8 +233,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "existdate",
         Make<KZCEkaValidExistdate>,
+        {.eCells = OwnCells::Date, .ePlace = ErrorPlace::Date},
         CODES<HE70012E>,
-        ErrorPlace::Date,
         {"an existing date of Meiji to Shingo", "明治～新号の実在する日付"},
         {"A real date within its era, from Meiji 23 (1890) on. Heisei 31 from May on and Heisei "
          "32 up to March count as Shingo 1 and 2; later dates of Heisei are refused, and so is an "
@@ -230,8 +246,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "existdate_2",
         Make<KZCEkaValidExistdate_2>,
+        {.eCells = OwnCells::Date, .ePlace = ErrorPlace::Date},
         CODES<HE70012E>,
-        ErrorPlace::Date,
         {"an existing date within its era (Heisei up to 30 April of year 31)",
          "元号の期間内に実在する日付（平成は31年4月30日まで）"},
         {"A real date within the era as it is written, from Meiji 23 (1890) on; Heisei ends on 30 "
@@ -242,8 +258,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "existpath",
         Make<KZCEkaValidExistpath, VALUE>,
+        {.value = {AttributeKind::PathKind, Absence::Fault, "file dir"}},
         CODES<HE70001E, HE70010E, HE70013E, HE70014E, HE70024E>,
-        ErrorPlace::Cell,
         {"[{value=file}a readable file that isn't empty|{value=dir}a path in an existing folder]",
          "[{value=file}読み取れる空でないファイル|{value=dir}存在するフォルダー内のパス]"},
         {"If `value` is `file`, a file that is there, can be read and isn't empty; if it is "
@@ -254,8 +270,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "extension",
         Make<KZCEkaValidExtension, VALUE>,
+        {.value = {AttributeKind::Extensions, Absence::Fault}},
         CODES<HE70015E>,
-        ErrorPlace::Cell,
         {"the extension {value:list}", "拡張子{value:one-of}"},
         {"A path that ends in one of the extensions listed in `value`, with their dots; case is "
          "told apart. Only for arguments of a request.",
@@ -265,8 +281,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "istring",
         Make<KZCEkaValidIstring>,
+        {.eContent = CellContent::JisCharacters},
         CODES<HE70006E>,
-        ErrorPlace::Cell,
         {"full-width characters of JIS X 0208 (some symbols excepted)",
          "全角文字（JIS第1・第2水準、一部の記号を除く）"},
         {"Full-width characters of JIS X 0208 only, without a few symbols such as ℃ and ★. "
@@ -277,8 +293,9 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "length",
         Make<KZCEkaValidLength, VALUE, MAX>,
+        {.value = {AttributeKind::ByteCount, Absence::Fault},
+         .max = {AttributeKind::ByteCount, Absence::Fault}},
         CODES<HE70008E>,
-        ErrorPlace::Cell,
         {"[{value} digit{value:s}|up to {max} digit{max:s}]", "[{value}桁|{max}桁以内]"},
         {"Exactly `value` bytes or, without `value`, `max` at most. In a CSV file a half-width "
          "character counts 1 and a full-width one 2; an empty value has 0.",
@@ -288,8 +305,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "multibyte",
         Make<KZCEkaValidMultibyte>,
+        {.eContent = CellContent::FullWidth},
         CODES<HE99999E>,
-        ErrorPlace::Cell,
         {"full-width characters", "全角文字"},
         {"Full-width characters only. An empty value passes.",
          "全角文字だけの値です。空の値は通ります。"},
@@ -297,8 +314,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "multikana",
         Make<KZCEkaValidMultikana>,
+        {.eContent = CellContent::Katakana},
         CODES<HE70003E>,
-        ErrorPlace::Cell,
         {"full-width katakana and blanks", "全角カタカナ・全角空白"},
         {"Full-width katakana with its voicing and length marks, and full-width blanks. An empty "
          "value passes.",
@@ -307,8 +324,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "multikana_2",
         Make<KZCEkaValidMultikana_2>,
+        {.eContent = CellContent::KatakanaAndAscii},
         CODES<HE70034E>,
-        ErrorPlace::Cell,
         {"full-width katakana, letters, digits and symbols, and ASCII without the comma",
          "全角カタカナ・英数字・記号、半角英数字・記号（カンマを除く）"},
         {"Full-width katakana, the full-width forms of ASCII, and half-width ASCII but the comma. "
@@ -319,8 +336,11 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "nonerr",
         Make<KZCEkaValidNonerr, VALUE, MIN>,
+        {.eCells = OwnCells::None,
+         .value = {AttributeKind::ErrorColumns, Absence::Fault},
+         .min = {AttributeKind::Record},
+         .ePlace = ErrorPlace::None},
         CODES<>,
-        ErrorPlace::None,
         {"no error so far in [{value:numbers} of record {min}|{value:columns}]",
          "[レコード{min}の{value:numbers}|{value:columns}]にエラーがないこと"},
         {"None of the columns listed in `value` has an error so far, in this record or in the "
@@ -334,8 +354,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "number",
         Make<KZCEkaValidNumber>,
+        {.eContent = CellContent::Digits},
         CODES<HE70004E>,
-        ErrorPlace::Cell,
         {"half-width digits", "半角数字"},
         {"Half-width digits only, without a sign or a point. An empty value passes.",
          "半角数字だけの値です。符号と小数点は使用できません。空の値は通ります。"},
@@ -343,8 +363,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "onward",
         Make<KZCEkaValidOnward, VALUE>,
+        {.eCells = OwnCells::Date,
+         .value = {AttributeKind::FirstDay, Absence::Fault},
+         .ePlace = ErrorPlace::Date},
         CODES<HE70010E, HE70012E>,
-        ErrorPlace::Date,
         {"{value:date} or later", "{value:date}以後の日付"},
         {"The date `value` (`YYYYMMDD`) or a later one. A date that doesn't exist is refused.",
          "`value`（`YYYYMMDD`）の日かそれより後の日付であること。実在しない日付は通りません。"},
@@ -352,8 +374,9 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "range",
         Make<KZCEkaValidRange, MIN, MAX>,
+        {.min = {AttributeKind::Limit, Absence::CountsAsZero},
+         .max = {AttributeKind::Limit, Absence::CountsAsZero}},
         CODES<HE70009E>,
-        ErrorPlace::Cell,
         {"{min:range}", "{min:range}"},
         {"A number from `min` to `max`, both included; a limit that is left out is 0, and "
          "decimals aren't looked at. An empty value is refused.",
@@ -363,8 +386,12 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "rangebasedate",
         Make<KZCEkaValidRangebasedate, VALUE, MIN, MAX>,
+        {.eCells = OwnCells::Date,
+         .value = {AttributeKind::DateCell},
+         .min = {AttributeKind::BaseDate, Absence::PassesAll},
+         .max = {AttributeKind::BaseDate, Absence::PassesAll},
+         .ePlace = ErrorPlace::DateOrCell},
         CODES<HE70012E, HE70025E>,
-        ErrorPlace::DateOrCell,
         {"[the date in {value:cell}: {min:western} to {max:western}|the date in {value:cell}: "
          "{min:western} or later|the date in {value:cell}: {max:western} or earlier|the date in "
          "{value:cell} (no limits given)|the date in {min:date-column} or later, up to that in "
@@ -384,8 +411,12 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "rangebasedate_2",
         Make<KZCEkaValidRangebasedate_2, VALUE, MIN, MAX>,
+        {.eCells = OwnCells::Date,
+         .value = {AttributeKind::LimitsIncluded, Absence::Fine, "include"},
+         .min = {AttributeKind::BaseDateOrCell, Absence::RefusesAll},
+         .max = {AttributeKind::BaseDateOrCell, Absence::RefusesAll},
+         .ePlace = ErrorPlace::DateOrColumn},
         CODES<HE70025E, HE99999E>,
-        ErrorPlace::DateOrColumn,
         {"[{value=include}the date in {min:source} or later, up to that in {max:source}|"
          "{value=include}the date in {min:source} or later|{value=include}the date in "
          "{max:source} or earlier|a date after that in {min:source} and before that in "
@@ -405,8 +436,11 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "rangedate",
         Make<KZCEkaValidRangedate, MIN, MAX>,
+        {.eCells = OwnCells::Date,
+         .min = {AttributeKind::Periods, Absence::RefusesAll},
+         .max = {AttributeKind::Periods, Absence::RefusesAll},
+         .ePlace = ErrorPlace::Date},
         CODES<HE70010E, HE70012E>,
-        ErrorPlace::Date,
         {"a date from {min:periods}", "{min:periods}の日付"},
         {"A date in one of the ranges that the lists `min` and `max` make pair by pair "
          "(`YYYYMMDD`), both ends included; `****` in place of the year is any year. A date that "
@@ -418,8 +452,11 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "rangedate_2",
         Make<KZCEkaValidRangedate_2, MIN, MAX>,
+        {.eCells = OwnCells::Date,
+         .min = {AttributeKind::FirstDay, Absence::Fault},
+         .max = {AttributeKind::FiscalYearColumn, Absence::Fault},
+         .ePlace = ErrorPlace::YearOfMax},
         CODES<HE70025E>,
-        ErrorPlace::YearOfMax,
         {"the date in {column:date-column} from {min:date} to 30 September of the year in "
          "{max:year-column}",
          "{column:date-column}が{min:date}以後、{max:year-column}の年の9月30日以前"},
@@ -435,8 +472,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "rangedate_3",
         Make<KZCEkaValidRangedate_3, VALUE>,
+        {.eCells = OwnCells::Date,
+         .value = {AttributeKind::FiscalYearColumn, Absence::Fault},
+         .ePlace = ErrorPlace::Date},
         CODES<HE70025E>,
-        ErrorPlace::Date,
         {"a date in the year up to 30 September of the year in {value:year-column}",
          "{value:year-column}の年の9月30日までの1年間の日付"},
         {"A date from 1 October of the year before to 30 September of the year in the column "
@@ -447,8 +486,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "taxoffice",
         Make<KZCEkaValidTaxoffice>,
+        {.eContent = CellContent::OfficeCode},
         CODES<HE70011E>,
-        ErrorPlace::Cell,
         {"the code of a tax office", "実在する局署番号"},
         {"The code of a tax office in the list of offices. An empty value is refused.",
          "局署の一覧にある局署番号であること。空の値は通りません。"},
@@ -456,8 +495,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "taxofficenm",
         Make<KZCEkaValidTaxofficenm>,
+        {.eCells = OwnCells::OfficeName, .ePlace = ErrorPlace::Pair},
         CODES<HE70002E>,
-        ErrorPlace::Pair,
         {"the name of the tax office whose code is in the next column",
          "次の項目の局署番号に対応する局署名称"},
         {"The name that the list of offices has for the code in the next column. An empty value "
@@ -467,8 +506,12 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "age",
         Make<KZCEkaValidAge, VALUE, MIN, MAX>,
+        {.eCells = OwnCells::None,
+         .value = {AttributeKind::AgeColumns, Absence::Fault},
+         .min = {AttributeKind::AgeLimit, Absence::PassesAll},
+         .max = {AttributeKind::AgeLimit, Absence::PassesAll},
+         .ePlace = ErrorPlace::CellOrDate},
         CODES<HE70010E>,
-        ErrorPlace::CellOrDate,
         {"[aged {min} to {max}|aged at least {min}|aged at most {max}|with a known age] on "
          "{value:age-day}, born on the date in {value:birth}",
          "{value:age-day}に[{min}歳以上{max}歳以下|{min}歳以上|{max}歳以下|"
@@ -488,8 +531,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "checkdigit",
         Make<KZCEkaValidCheckDigit, VALUE>,
+        {.value = {AttributeKind::NumberKind, Absence::Fault, "kojin kojin2 hojin seiri"}},
         CODES<HE70004E, HE70008E, HE70010E>,
-        ErrorPlace::Cell,
         {"[{value=kojin}a personal number of 12 digits|{value=kojin2}a digit and a personal "
          "number of 12 digits|{value=hojin}a corporate number of 13 digits|{value=seiri}a "
          "reference number of 14 digits|a number] with the right check digit",
@@ -506,8 +549,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "digitequality",
         Make<KZCEkaValidDigitEquality, VALUE, MIN, MAX>,
+        {.value = {AttributeKind::Positions, Absence::Fault},
+         .min = {AttributeKind::Characters, Absence::Fault},
+         .max = {AttributeKind::Characters, Absence::Fault}},
         CODES<HE70010E>,
-        ErrorPlace::Cell,
         {"[{value:positions} is {max:one-of-characters}|{value:positions} isn't {min:characters}]",
          "[{value:positions}が{max:one-of-characters}|{value:positions}が{min:characters}以外]"},
         {"Each of the characters at the positions in `value` is one of those in `max` or, without "
@@ -522,8 +567,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "exceptcolumn",
         Make<KZCEkaValidExceptColumn, VALUE, MIN, MAX>,
+        {.value = {AttributeKind::UnequalColumn, Absence::Fault},
+         .min = {AttributeKind::Offset},
+         .max = {AttributeKind::Offset}},
         CODES<HE70010E>,
-        ErrorPlace::Cell,
         {"not [{min:sum}|{max:sum}|the same value as {value:column}]",
          "[{min:sum}以外|{max:sum}以外|{value:column}と異なる値]"},
         {"Another text than in the column `value`. With `min` or `max` numbers are compared: this "
@@ -536,8 +583,12 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "compdate",
         Make<KZCEkaValidCompDate, VALUE, MIN, MAX>,
+        {.eCells = OwnCells::Date,
+         .value = {AttributeKind::ComparedDay, Absence::Fault},
+         .min = {AttributeKind::ComparedDay, Absence::Fault},
+         .max = {AttributeKind::ComparedDay, Absence::Fault},
+         .ePlace = ErrorPlace::Date},
         CODES<HE70010E, HE70012E>,
-        ErrorPlace::Date,
         {"[the date {value:date}|{min:date} or later|{max:date} or earlier]",
          "[{value:date}|{min:date}以後の日付|{max:date}以前の日付]"},
         {"The date `value`, or `min` or a later one, or `max` or an earlier one: the first of the "
@@ -548,8 +599,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "exist_2",
         Make<KZCEkaValidExist_2>,
+        {.eCells = OwnCells::GroupOfKind, .ePlace = ErrorPlace::GroupOfKind},
         CODES<HE70012E>,
-        ErrorPlace::GroupOfKind,
         {"all parts of the date filled, or all empty", "日付の項目をすべて入力、またはすべて空"},
         {"The columns of a date are all filled or all empty: four in forms 003, 004 and 005, two "
          "(era and year) in 006, 007 and 009. Any other form is refused.",
@@ -561,8 +612,11 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "rangedate_4",
         Make<KZCEkaValidRangedate_4, MIN, MAX>,
+        {.eCells = OwnCells::Date,
+         .min = {AttributeKind::Period, Absence::RefusesAll},
+         .max = {AttributeKind::Period, Absence::RefusesAll},
+         .ePlace = ErrorPlace::Date},
         CODES<HE70010E, HE70012E>,
-        ErrorPlace::Date,
         {"a date from {min:first-period}", "{min:first-period}の日付"},
         {"A date from `min` to `max` (`YYYYMMDD`), both included; of lists only the first dates "
          "count. A date that doesn't exist is refused.",
@@ -572,8 +626,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "alphabet",
         Make<KZCEkaValidAlphabet>,
+        {.eContent = CellContent::Letters},
         CODES<HE70006E>,
-        ErrorPlace::Cell,
         {"half-width letters", "半角英字"},
         {"Half-width letters only. An empty value passes.",
          "半角英字だけの値です。空の値は通ります。"},
@@ -581,8 +635,11 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "anycontain",
         Make<KZCEkaValidAnyContain, VALUE, MIN, MAX>,
+        {.eCells = OwnCells::None,
+         .value = {AttributeKind::AnyColumn, Absence::Fault},
+         .min = {AttributeKind::Limit, Absence::CountsAsZero},
+         .max = {AttributeKind::Limit, Absence::CountsAsZero}},
         CODES<HE70009E>,
-        ErrorPlace::Cell,
         {"{min:range} in {value:any-of}", "{value:any-of}が{min:range}"},
         {"At least one of the columns listed in `value` is a number from `min` to `max`, both "
          "included; a limit that is left out is 0. The columns are looked at in the order of the "
@@ -595,8 +652,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "anyexist",
         Make<KZCEkaValidAnyExist, VALUE>,
+        {.eCells = OwnCells::None, .value = {AttributeKind::AnyColumn, Absence::Fault}},
         CODES<HE70001E>,
-        ErrorPlace::Cell,
         {"{value:any-of} required", "{value:any-of}が必須"},
         {"At least one of the columns listed in `value` is filled. The item's own column isn't "
          "looked at.",
@@ -607,8 +664,8 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "alnumsbl",
         Make<KZCEkaValidAlnumsbl>,
+        {.eContent = CellContent::AsciiAndLineFeeds},
         CODES<HE70035E>,
-        ErrorPlace::Cell,
         {"half-width letters, digits and symbols, line breaks allowed",
          "半角英数字・記号（改行も可）"},
         {"Half-width letters, digits, symbols and blanks, and line breaks. An empty value passes.",
@@ -617,8 +674,10 @@ constexpr auto ITEM_KEYWORDS = std::to_array<ItemKeyword>({
     {
         "existdateYYYYMMDD",
         Make<KZCEkaValidExistDateYYYYMMDD, VALUE>,
+        {.eCells = OwnCells::None,
+         .value = {AttributeKind::WesternDateColumns, Absence::Fault},
+         .ePlace = ErrorPlace::ColumnsOfValue},
         CODES<HE70012E>,
-        ErrorPlace::ColumnsOfValue,
         {"an existing Western date", "実在する西暦の日付"},
         {"The three columns of year, month and day listed in `value` are a real Western date of "
          "the year 100 or later, or all empty.",
@@ -637,13 +696,15 @@ constexpr bool HasNoRepeatedKeyword()
 }
 
 static_assert(HasNoRepeatedKeyword());
+static_assert(std::ranges::all_of(ITEM_KEYWORDS, [](const ItemKeyword& row) {
+    return row.maker.Fits(row.shape);
+}));
 
 constexpr auto CATALOGUE = [] {
     std::array<CatalogueItem, ITEM_KEYWORDS.size()> items;
     std::ranges::transform(ITEM_KEYWORDS, items.begin(), [](const ItemKeyword& row) {
-        return CatalogueItem{row.strKeyword, row.maker.bValue, row.maker.bMin,
-                             row.maker.bMax, row.messages,     row.ePlace,
-                             row.rule,       row.description,  row.condition};
+        return CatalogueItem{row.strKeyword, row.shape,       row.messages,
+                             row.rule,       row.description, row.condition};
     });
     return items;
 }();

@@ -1,11 +1,9 @@
 #include "CellSpoiler.h"
 
 #include <algorithm>
-#include <array>
-#include <initializer_list>
-#include <string_view>
 #include <utility>
 
+#include "CheckShape.h"
 #include "ShiftJisText.h"
 #include "example/RecordGenerator.h"
 
@@ -15,15 +13,6 @@ namespace {
 
 /// U+FF9F as a CSV holds it: half-width, so that it is no text of whole characters either.
 constexpr const char* FORBIDDEN = "\xdf";
-
-constexpr std::array<std::string_view, 9> TEXT_KEYWORDS = {"alnum",     "alnumsbl",    "alphabet",
-                                                           "istring",   "lvystring",   "multibyte",
-                                                           "multikana", "multikana_2", "number"};
-
-bool IsAnyOf(const std::string& strKeyword, std::initializer_list<const char*> listKeyword)
-{
-    return std::ranges::find(listKeyword, strKeyword) != listKeyword.end();
-}
 
 std::string TooLong(const CheckRule& rule)
 {
@@ -46,19 +35,12 @@ std::optional<std::string> SpoiledDigit(const CheckRule& rule, std::string strCe
 }
 
 /// The offset is the place in the date: era, year, month, day.
-std::optional<std::string> SpoiledDatePart(const CheckRule& rule, long lOffset)
+std::optional<std::string> SpoiledDatePart(long lOffset)
 {
-    const std::string& strKeyword = rule.strKeyword;
-    if (strKeyword == "rangedate_3")  // leaves dates that don't exist to others
-        return lOffset == 1 ? std::optional<std::string>("99") : std::nullopt;
     if (lOffset == 0)
-        return strKeyword == "rangebasedate" || strKeyword == "rangebasedate_2"
-                   ? std::nullopt
-                   : std::optional<std::string>("9");
-    if (lOffset == 1)  // no era has a year 0; the last era has no last year
-        return strKeyword == "existdate" || strKeyword == "existdate_2"
-                   ? std::optional<std::string>("0")
-                   : std::nullopt;
+        return "9";
+    if (lOffset == 1)  // the last era has no last year
+        return std::nullopt;
     return "77";
 }
 
@@ -68,11 +50,132 @@ std::optional<std::string> SpoiledPair(const CheckRule& rule,
                                        const std::string& strOther)
 {
     const bool bNumbers = !rule.strMin.empty() || !rule.strMax.empty();
-    if (rule.strKeyword == "containcolumn")
+    if (HasKind(*rule.pRow, AttributeKind::EqualColumn))
         return bNumbers ? std::to_string(NumberOf(strCell) + 1) : strCell + FORBIDDEN;
     return bNumbers
                ? std::to_string(NumberOf(strOther) + NumberOf(rule.strMin) - NumberOf(rule.strMax))
                : strOther;
+}
+
+/// The first of the list is looked at whatever the others hold, if it has to be a number.
+std::optional<std::string> SpoiledNumberOfMany(const CheckRule& rule, long lColumn)
+{
+    return NumberOf(rule.strValue) == lColumn ? std::optional<std::string>(FORBIDDEN)
+                                              : std::nullopt;
+}
+
+/// All cells of the list have to be empty.
+std::optional<std::string> SpoiledAlone(const CheckRule& rule,
+                                        const RecordTable& table,
+                                        long lRow,
+                                        long lColumn)
+{
+    const auto vecToken = SplitTokens(rule.strValue);
+    const bool bAlone = std::ranges::all_of(vecToken, [&](const std::string& strToken) {
+        return NumberOf(strToken) == lColumn || table.Cell(lRow, NumberOf(strToken)).empty();
+    });
+    return bAlone && rule.setReads.contains(lColumn) ? std::optional<std::string>("")
+                                                     : std::nullopt;
+}
+
+/// A base date of another record that isn't there lets everything pass.
+bool HasBaseDates(const CheckRule& rule, const RecordTable& table)
+{
+    return std::ranges::none_of(NamedCells(*rule.pRow, rule), [&](const CellSpan& span) {
+        return span.lRecord > 0 && table.Cell(span.lRecord - 1, span.Last()).empty();
+    });
+}
+
+/// What the attributes' kinds tell, the first that tells something.
+std::optional<std::string> SpoiledByKind(
+    const CheckRule& rule, AttributeKind eKind, const RecordTable& table, long lRow, long lColumn)
+{
+    const std::string strCell = table.Cell(lRow, lColumn);
+    const long lOffset = lColumn - rule.lColumn;
+    const bool bRead = rule.setReads.contains(lColumn);
+    switch (eKind) {
+        case AttributeKind::ByteCount:
+        case AttributeKind::CharacterCount:
+            return TooLong(rule);
+        case AttributeKind::Limit:
+            return HasKind(*rule.pRow, AttributeKind::AnyColumn)
+                       ? std::nullopt
+                       : std::optional<std::string>(FORBIDDEN);
+        case AttributeKind::Texts:
+        case AttributeKind::NumberKind:
+            return FORBIDDEN;
+        case AttributeKind::ForbiddenTexts:
+            return ToShiftJis(SplitTokens(rule.strValue).front());
+        case AttributeKind::Extensions:
+            return "a";
+        case AttributeKind::PathKind:
+            return "";
+        case AttributeKind::Positions:
+        case AttributeKind::Characters:
+            return SpoiledDigit(rule, strCell);
+        case AttributeKind::EqualColumn:
+        case AttributeKind::UnequalColumn:
+            return SpoiledPair(rule, strCell, table.Cell(lRow, NumberOf(rule.strValue)));
+        case AttributeKind::AnyColumn:
+            return HasKind(*rule.pRow, AttributeKind::Limit)
+                       ? SpoiledNumberOfMany(rule, lColumn)
+                       : SpoiledAlone(rule, table, lRow, lColumn);
+        case AttributeKind::WesternDateColumns:
+            return lOffset == 0 || NumberOf(SplitTokens(rule.strValue)[0]) == lColumn ? "99" : "77";
+        case AttributeKind::EqualYearColumn:
+        case AttributeKind::Years:
+            return lOffset == 1 ? std::optional<std::string>(strCell == "99" ? "98" : "99")
+                                : std::nullopt;
+        case AttributeKind::FiscalYearColumn:  // leaves dates that don't exist to others
+            return lOffset == 1 && !HasKind(*rule.pRow, AttributeKind::FirstDay)
+                       ? std::optional<std::string>("99")
+                       : std::nullopt;
+        case AttributeKind::AgeColumns: {
+            const long lBirth = NumberOf(rule.strValue);
+            return lColumn == lBirth + 2 || lColumn == lBirth + 3 ? std::optional<std::string>("77")
+                                                                  : std::nullopt;
+        }
+        case AttributeKind::BaseDate:
+        case AttributeKind::BaseDateOrCell:  // an era that isn't there is a date like others
+            return bRead && lOffset > 0 && HasBaseDates(rule, table) ? SpoiledDatePart(lOffset)
+                                                                     : std::nullopt;
+        case AttributeKind::FirstDay:
+            if (HasKind(*rule.pRow, AttributeKind::FiscalYearColumn))
+                return std::nullopt;
+            [[fallthrough]];
+        case AttributeKind::ComparedDay:
+        case AttributeKind::Periods:
+        case AttributeKind::Period:
+            return bRead ? SpoiledDatePart(lOffset) : std::nullopt;
+        case AttributeKind::None:
+        case AttributeKind::LineFeeds:
+        case AttributeKind::LimitsIncluded:
+        case AttributeKind::AgeLimit:
+        case AttributeKind::Offset:
+        case AttributeKind::ErrorColumns:
+        case AttributeKind::Record:
+        case AttributeKind::DateCell:
+            break;
+    }
+    return std::nullopt;
+}
+
+/// What a check without attributes tells.
+std::optional<std::string> SpoiledByCells(OwnCells eCells, const std::string& strCell, long lOffset)
+{
+    switch (eCells) {
+        case OwnCells::None:
+        case OwnCells::Cell:
+        case OwnCells::Year:
+            break;
+        case OwnCells::Date:  // no era has a year 0
+            return lOffset == 1 ? "0" : SpoiledDatePart(lOffset);
+        case OwnCells::GroupOfKind:
+            return strCell.empty() ? "1" : "";
+        case OwnCells::OfficeName:
+            return FORBIDDEN;
+    }
+    return std::nullopt;
 }
 
 bool Applies(const FormRules& form, const CheckRule& rule, const RecordTable& table, long lRow)
@@ -102,65 +205,29 @@ std::optional<std::string> SpoiledCell(const CheckRule& rule,
                                        long lRow,
                                        long lColumn)
 {
-    const std::string& strKeyword = rule.strKeyword;
+    const ItemShape& shape = rule.pRow->shape;
     const std::string strCell = table.Cell(lRow, lColumn);
-    const long lOffset = lColumn - rule.lColumn;
-    if (strKeyword == "exist")
-        return "";
-    if (strKeyword == "empty")
-        return "1";
-    if (std::ranges::find(TEXT_KEYWORDS, strKeyword) != TEXT_KEYWORDS.end())
-        return strCell + FORBIDDEN;
-    if (strKeyword == "length" || strKeyword == "charlength")
-        return TooLong(rule);
-    if (IsAnyOf(strKeyword, {"range", "contain", "checkdigit", "taxoffice", "taxofficenm"}))
-        return FORBIDDEN;
-    if (strKeyword == "extension")
-        return "a";
-    if (strKeyword == "existpath")
-        return "";
-    if (strKeyword == "except")
-        return ToShiftJis(SplitTokens(rule.strValue).front());
-    if (strKeyword == "digitequality")
-        return SpoiledDigit(rule, strCell);
-    if (strKeyword == "containcolumn" || strKeyword == "exceptcolumn")
-        return SpoiledPair(rule, strCell, table.Cell(lRow, NumberOf(rule.strValue)));
-    if (strKeyword == "exist_2")
-        return strCell.empty() ? "1" : "";
-    if (strKeyword == "existdateYYYYMMDD")
-        return lOffset == 0 || NumberOf(SplitTokens(rule.strValue)[0]) == lColumn ? "99" : "77";
-    if (strKeyword == "anycontain")  // the first of the list is looked at whatever the others hold
-        return NumberOf(rule.strValue) == lColumn ? std::optional<std::string>(FORBIDDEN)
-                                                  : std::nullopt;
-    if (strKeyword == "anyexist") {
-        const auto vecToken = SplitTokens(rule.strValue);
-        const bool bAlone = std::ranges::all_of(vecToken, [&](const std::string& strToken) {
-            return NumberOf(strToken) == lColumn || table.Cell(lRow, NumberOf(strToken)).empty();
-        });
-        return bAlone && rule.setReads.contains(lColumn) ? std::optional<std::string>("")
-                                                         : std::nullopt;
+    switch (shape.eContent) {
+        case CellContent::Filled:
+            return "";
+        case CellContent::Empty:
+            return "1";
+        case CellContent::OfficeCode:
+            return FORBIDDEN;
+        case CellContent::Any:
+            break;
+        default:  // a set of characters
+            return strCell + FORBIDDEN;
     }
-    if (strKeyword == "equalyear" || strKeyword == "containyear")
-        return lOffset == 1 ? std::optional<std::string>(strCell == "99" ? "98" : "99")
-                            : std::nullopt;
-    if (strKeyword == "age") {
-        const long lBirth = NumberOf(rule.strValue);
-        return lColumn == lBirth + 2 || lColumn == lBirth + 3 ? std::optional<std::string>("77")
-                                                              : std::nullopt;
-    }
-    if (strKeyword == "rangebasedate" && !rule.strValue.empty())
-        return std::nullopt;  // looks at a cell of some other record
-    if (strKeyword == "rangebasedate_2") {
-        // A base date of another record that isn't there lets everything pass.
-        for (const std::string& strBound : {rule.strMin, rule.strMax}) {
-            const auto [lRecord, lBase] = ReferenceOf(strBound);
-            if (lRecord > 0 && table.Cell(lRecord - 1, lBase + 3).empty())
-                return std::nullopt;
-        }
-    }
-    if (IsDateKeyword(strKeyword) && rule.setReads.contains(lColumn))
-        return SpoiledDatePart(rule, lOffset);
-    return std::nullopt;
+    // The date of another record is looked at, not this one's.
+    if (shape.value.eKind == AttributeKind::DateCell && !rule.strValue.empty())
+        return std::nullopt;
+    const std::vector<AttributeKind> vecKind = KindsOf(*rule.pRow);
+    for (const AttributeKind eKind : vecKind)
+        if (auto strSpoiled = SpoiledByKind(rule, eKind, table, lRow, lColumn))
+            return strSpoiled;
+    return vecKind.empty() ? SpoiledByCells(shape.eCells, strCell, lColumn - rule.lColumn)
+                           : std::nullopt;
 }
 
 std::vector<SpoiledRecord> SpoilRecord(const FormRules& form, RecordTable& table, long lRow)

@@ -17,7 +17,7 @@ struct SpoiledRecord
 };
 
 /// What the keyword of the check can't take in that column (from 1), the other cells being as they
-/// are, or nothing if no such text is known. Told from the keyword alone.
+/// are, or nothing if no such text is known. Told from the shape of the check alone.
 std::optional<std::string> SpoiledCell(const host::CheckRule& rule,
                                        const host::RecordTable& table,
                                        long lRow,

@@ -78,8 +78,9 @@ const KeywordRow KEYWORDS[] = {
 std::string Attributes(const CatalogueItem& item)
 {
     std::string strAttributes;
-    for (const auto& [bReads, szName] :
-         {std::pair(item.bValue, "value"), {item.bMin, "min"}, {item.bMax, "max"}})
+    for (const auto& [bReads, szName] : {std::pair(item.shape.value.IsRead(), "value"),
+                                         {item.shape.min.IsRead(), "min"},
+                                         {item.shape.max.IsRead(), "max"}})
         if (bReads)
             strAttributes += (strAttributes.empty() ? "" : " ") + std::string(szName);
     return strAttributes;
@@ -107,7 +108,7 @@ TEST_P(KeywordRowTest, HasItsMessages)
 TEST_P(KeywordRowTest, HasItsPlaceOfErrors)
 {
     ASSERT_NE(m_pItem, nullptr);
-    EXPECT_EQ(m_pItem->ePlace, GetParam().ePlace);
+    EXPECT_EQ(m_pItem->shape.ePlace, GetParam().ePlace);
 }
 
 TEST_P(KeywordRowTest, IsMadeByTheFactory)
@@ -307,8 +308,10 @@ std::string TemplateProblem(const CatalogueItem& item, std::string_view strTempl
             cOpen = '\0';
             const std::string_view strPlace = strTemplate.substr(nPlace, n - nPlace);
             const std::string_view strName = strPlace.substr(0, strPlace.find_first_of(":="));
-            const bool bReads = strName == "column" || (strName == "value" && item.bValue) ||
-                                (strName == "min" && item.bMin) || (strName == "max" && item.bMax);
+            const bool bReads = strName == "column" ||
+                                (strName == "value" && item.shape.value.IsRead()) ||
+                                (strName == "min" && item.shape.min.IsRead()) ||
+                                (strName == "max" && item.shape.max.IsRead());
             if (!bReads)
                 return "it doesn't read " + std::string(strName);
         } else if (cByte == '[') {
@@ -366,13 +369,13 @@ TEST_P(ItemWordsTest, DescriptionNamesEachAttributeThatTheItemReads)
 {
     for (const std::string strDescription :
          {Item().description.szEnglish, Item().description.szJapanese}) {
-        if (Item().bValue) {
+        if (Item().shape.value.IsRead()) {
             EXPECT_NE(strDescription.find("`value`"), std::string::npos) << strDescription;
         }
-        if (Item().bMin) {
+        if (Item().shape.min.IsRead()) {
             EXPECT_NE(strDescription.find("`min`"), std::string::npos) << strDescription;
         }
-        if (Item().bMax) {
+        if (Item().shape.max.IsRead()) {
             EXPECT_NE(strDescription.find("`max`"), std::string::npos) << strDescription;
         }
     }
