@@ -4,12 +4,10 @@
 #include <utility>
 
 #include "KZCMacOSNative.h"
+#include "SpreadProcedure.h"
 
 namespace host {
 namespace {
-
-/// The procedure of this type id has records whose first column may be empty.
-constexpr const char* SPREAD_FORM_TYPE_ID = "202";
 
 std::string Trim(std::string_view strText)
 {
@@ -142,7 +140,7 @@ std::size_t CsvCells::FilledRecordCount() const
 
 std::size_t CsvCells::LimitedRecordCount() const
 {
-    if (m_eFamily == Family::Base || TypeId() == SPREAD_FORM_TYPE_ID)
+    if (m_eFamily == Family::Base || TypeId() == SpreadProcedure::TYPE_ID)
         return m_vecRecord.size();
     std::size_t nCount = 0;
     for (std::size_t n = 1; n <= m_vecRecord.size(); ++n)

@@ -3,18 +3,18 @@
 #include <algorithm>
 #include <utility>
 
+#include "BundleFiles.h"
 #include "CText.h"
 #include "DetailTable.h"
 #include "FamilyFolder.h"
 #include "KZCDefinitionManager.h"
 #include "KZCLoadResource.h"
+#include "RecordLimit.h"
 
 namespace host {
 namespace {
 
-constexpr const char* BASE_FILE = "KZEkaDefine.xml";
 constexpr const char* LABEL_SEPARATOR = " / ";
-constexpr long BASE_MAX_RECORD = 5000;
 constexpr int TYPE_ID_MAX = 999;
 
 long ReadNumber(const XmlElement& element, const char* szAttribute)
@@ -222,7 +222,7 @@ void Definitions::Cache::ReadBase(const std::string& strBundle)
 {
     if (std::exchange(bBaseRead, true) || strBundle.empty())
         return;
-    const std::string strPath = strBundle + "/" + BASE_FILE;
+    const std::string strPath = strBundle + "/" + BundleFiles::BASE_DEFINITION;
     const XmlFile file = ReadXmlFile(strPath);
     bHasBase = file.root.has_value();
     if (!bHasBase)
@@ -236,7 +236,7 @@ void Definitions::Cache::ReadBase(const std::string& strBundle)
         vecBase.push_back({Family::Base,
                            strTypeId,
                            element.Attribute("procId"),
-                           BASE_MAX_RECORD,
+                           BASE_RECORDS_MAX,
                            strPath,
                            strPath,
                            {ReadForm(element)}});

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "BundleFiles.h"
 #include "FamilyFolder.h"
 #include "FormDefinition.h"
 #include "KZCDefinitionManager.h"
@@ -11,8 +12,6 @@
 
 namespace host {
 namespace {
-
-constexpr const char* BUNDLE_VARIABLE = "KZEKAMOK_BUNDLE";
 
 constexpr Text NO_FOLDER = {
     "The resource folder KZEkaMok.bundle was not found beside the library nor in its installed "
@@ -39,7 +38,7 @@ std::string FolderProblem()
 {
     if (!KZCLoadResource::getBundlePath().empty())
         return {};
-    const char* szVariable = std::getenv(BUNDLE_VARIABLE);
+    const char* szVariable = std::getenv(BundleFiles::VARIABLE);
     if (szVariable != nullptr && *szVariable != '\0')
         return Say(NO_NAMED_FOLDER, {MakeSafe(szVariable)});
     return Say(NO_FOLDER);
@@ -89,17 +88,18 @@ std::string InstallationProblem(Family eFamily, const std::string& strTypeId)
     if (std::string strProblem = FolderProblem(); !strProblem.empty())
         return strProblem;
     if (eFamily == Family::Base)
-        if (std::string strProblem = SharedFileProblem("KZEkaDefine.xml"); !strProblem.empty())
+        if (std::string strProblem = SharedFileProblem(BundleFiles::BASE_DEFINITION);
+            !strProblem.empty())
             return strProblem;
-    if (std::string strProblem = SharedFileProblem("TaxOffices.xml"); !strProblem.empty())
+    if (std::string strProblem = SharedFileProblem(BundleFiles::TAX_OFFICES); !strProblem.empty())
         return strProblem;
     switch (eFamily) {
         case Family::Base:
             return {};
         case Family::Finance:
-            return ProcedureProblem(CALL_TYPE_FINANCE, "Finance", strTypeId);
+            return ProcedureProblem(CALL_TYPE_FINANCE, BundleFiles::FINANCE, strTypeId);
         case Family::CrossBorder:
-            return ProcedureProblem(CALL_TYPE_CROSSBORDER, "CrossBorder", strTypeId);
+            return ProcedureProblem(CALL_TYPE_CROSSBORDER, BundleFiles::CROSS_BORDER, strTypeId);
     }
     return {};
 }

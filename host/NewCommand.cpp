@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <vector>
 
+#include "BundleFiles.h"
 #include "CheckFile.h"
 #include "Complain.h"
 #include "FormDefinition.h"
@@ -105,7 +106,8 @@ std::string MakeExample(const ProcedureRules& rules,
 {
     const CheckPhase phase(rules.eFamily == Family::Base ? KZCEkaCommon::EXEC_MODE_ZEKA
                                                          : KZCEkaCommon::EXEC_MODE_OTHER);
-    FileGenerator generator(rules, ReadTaxOffices(strBundle + "/TaxOffices.xml"), strFolder, nSeed);
+    FileGenerator generator(rules, ReadTaxOffices(strBundle + "/" + BundleFiles::TAX_OFFICES),
+                            strFolder, nSeed);
     return CsvText(generator.Make(nRecords), rules.eFamily == Family::CrossBorder);
 }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "CText.h"
+#include "CheckShape.h"
 #include "DetailTable.h"
 #include "EraTable.h"
 #include "Language.h"
@@ -18,8 +19,6 @@ namespace {
 
 using Words = std::optional<std::string>;
 
-constexpr long YEAR_COLUMNS = 2;
-constexpr long DATE_COLUMNS = 4;
 /// So many neighbours in a list are written as a run.
 constexpr std::size_t RUN_LENGTH = 3;
 constexpr std::string_view ANY_YEAR = "****";
@@ -225,12 +224,12 @@ Words Column(const std::string& strParameter, const WordContext& context)
 
 Words YearColumn(const std::string& strParameter, const WordContext& context)
 {
-    return ColumnsFrom(Number(strParameter), YEAR_COLUMNS, context);
+    return ColumnsFrom(Number(strParameter), YEAR_CELLS, context);
 }
 
 Words DateColumn(const std::string& strParameter, const WordContext& context)
 {
-    return ColumnsFrom(Number(strParameter), DATE_COLUMNS, context);
+    return ColumnsFrom(Number(strParameter), DATE_CELLS, context);
 }
 
 Words OwnColumns(const std::string& strParameter, const WordContext& context)
@@ -274,7 +273,7 @@ Words Cell(const std::string& strParameter, const WordContext&)
         return std::nullopt;
     return Say({"{2} of record {1}", "レコード{1}の{2}"},
                {std::to_string(reference->lRow),
-                ColumnNumbers(reference->lColumn, reference->lColumn + DATE_COLUMNS - 1)});
+                ColumnNumbers(reference->lColumn, reference->lColumn + DATE_CELLS - 1)});
 }
 
 Words Source(const std::string& strParameter, const WordContext& context)

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "Fault.h"
+#include "SpreadProcedure.h"
 
 namespace {
 
@@ -49,7 +50,13 @@ constexpr std::array<Procedure, 18> PROC_INFO_LIST = {{
     {"115", "PGE2150", FINANCE_VR, 1000, 220, 227, {"GEZ610", "4.0"}},
     {"116", "PGE2160", FINANCE_VR, 1, 221, 226, {"GEZ100", "2.0"}},
     {"201", "PGE1630", FINANCE_VR, 1, 204, 222, {"GEZ740", "1.0"}},
-    {"202", "PGE1640", FINANCE_VR, 1000, 205, 223, {"GEZ750", "1.0"}},
+    {SpreadProcedure::TYPE_ID,
+     SpreadProcedure::PROC_ID,
+     FINANCE_VR,
+     1000,
+     205,
+     223,
+     {"GEZ750", "1.0"}},
 }};
 
 constexpr std::array<Procedure, 2> PROC_INFO_LIST_CROSSBORDER = {{

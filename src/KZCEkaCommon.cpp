@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "BundleFiles.h"
 #include "CText.h"
 #include "Fault.h"
 #include "KZCMacOSNative.h"
@@ -20,8 +21,8 @@ struct ResourceFile
 };
 
 constexpr std::array<ResourceFile, 2> RESOURCE_FILES = {{
-    {202, "KZEkaDefine.xml"},
-    {203, "TaxOffices.xml"},
+    {202, BundleFiles::BASE_DEFINITION},
+    {203, BundleFiles::TAX_OFFICES},
 }};
 
 /// The JIS table's code point for one of the decoder's table. The character checks of the base

@@ -11,11 +11,11 @@
 #include "KZCEkaXDOM.h"
 #include "KZCMacOSNative.h"
 #include "KZCValidResult.h"
+#include "RecordLimit.h"
 
 namespace {
 
 constexpr unsigned short DEFINITION_INDEX_ID = 202;
-constexpr std::int64_t MAX_RECORDS = 5000;
 
 bool IsBlank(const KZCEkaCsvFile::Record& record)
 {
@@ -57,8 +57,8 @@ int KZCEkaCsvFile::ReadFile(const std::string& strPath)
 int KZCEkaCsvFile::CheckRecordCount() const
 {
     const std::int64_t nCount = GetRecordCount();
-    const bool bOnlyClosingBlank = nCount == MAX_RECORDS + 1 && IsBlank(m_vecRecord.back());
-    if (nCount <= MAX_RECORDS || bOnlyClosingBlank)
+    const bool bOnlyClosingBlank = nCount == BASE_RECORDS_MAX + 1 && IsBlank(m_vecRecord.back());
+    if (nCount <= BASE_RECORDS_MAX || bOnlyClosingBlank)
         return STATUS_OK;
     return Refuse(HE70020E, 0, 0, "KZCEkaCsvFile::ReadFile",
                   "CSVレコードの総件数エラーです。（HE70020E）", nCount);

@@ -9,6 +9,7 @@
 #include "KZCDebugDump.h"
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
+#include "SpreadProcedure.h"
 
 namespace {
 
@@ -21,7 +22,6 @@ constexpr const char* VALIDATE_RECORD = "KZCEkaCsvFileFinance::ValidateRecordFin
 constexpr const char* CHECK_MAX_RECORD = "KZCEkaCsvFileFinance::checkMaxRecord";
 
 /// The one procedure whose records may begin with an empty column.
-constexpr const char* TYPEID_CSVRECORDTYPE = "202";
 
 std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
 {
@@ -226,7 +226,7 @@ bool KZCEkaCsvFileFinance::isEmptyRecord(std::vector<Record>::const_iterator pRe
 void KZCEkaCsvFileFinance::setEmptyCheckMode(const std::string& strTypeId)
 {
     m_eEmptyCheckMode =
-        strTypeId == TYPEID_CSVRECORDTYPE ? EMPTYCHECK_COLUMN_COUNT : EMPTYCHECK_FIRST_COLUMN;
+        strTypeId == SpreadProcedure::TYPE_ID ? EMPTYCHECK_COLUMN_COUNT : EMPTYCHECK_FIRST_COLUMN;
 }
 
 std::int64_t KZCEkaCsvFileFinance::CountValidRecords() const

@@ -8,12 +8,11 @@
 #include <string_view>
 #include <system_error>
 
+#include "BundleFiles.h"
+
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr const char* BUNDLE_VARIABLE = "KZEKAMOK_BUNDLE";
-constexpr const char* BUNDLE_NAME = "KZEkaMok.bundle";
 
 /// The resource folder below an installation prefix.
 constexpr const char* INSTALLED_BUNDLE = "share/KZEkaMok/KZEkaMok.bundle";
@@ -43,7 +42,7 @@ fs::path CodeFolder()
 
 std::string KZCLoadResource::getBundlePath()
 {
-    const char* szOverride = secure_getenv(BUNDLE_VARIABLE);
+    const char* szOverride = secure_getenv(BundleFiles::VARIABLE);
     if (szOverride != nullptr && *szOverride != '\0')
         return IsFolder(szOverride) ? szOverride : std::string();
 
@@ -52,7 +51,7 @@ std::string KZCLoadResource::getBundlePath()
         return {};
     // Beside the code; then lib/ or bin/ of the prefix; then lib/<architecture>/ of the prefix.
     const std::array<fs::path, 3> candidates = {
-        folder / BUNDLE_NAME,
+        folder / BundleFiles::FOLDER,
         folder.parent_path() / INSTALLED_BUNDLE,
         folder.parent_path().parent_path() / INSTALLED_BUNDLE,
     };

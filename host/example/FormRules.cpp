@@ -1,7 +1,6 @@
 #include "FormRules.h"
 
 #include <algorithm>
-#include <array>
 #include <cstdlib>
 #include <sstream>
 #include <stdexcept>
@@ -128,8 +127,8 @@ std::vector<std::string> FormRules::Generations() const
 {
     if (!bHasGenerations)
         return {""};
-    constexpr std::array<std::string_view, 4> TWO_GENERATIONS = {"001", "002", "007", "008"};
-    if (std::ranges::find(TWO_GENERATIONS, strTypeId) != TWO_GENERATIONS.end())
+    const GenerationRules::Rule* pRule = GenerationRules::Find(strTypeId);
+    if (pRule != nullptr && pRule->HasBoth())
         return {SENIOR, JUNIOR};
     return {SENIOR};
 }

@@ -7,13 +7,14 @@
 #include <vector>
 
 #include "FormDefinition.h"
+#include "GenerationRules.h"
 #include "validator/ItemCatalogue.h"
 #include "validator/KZCEkaValidItem.h"
 
 namespace host {
 
-inline constexpr const char* JUNIOR = "junior";
-inline constexpr const char* SENIOR = "senior";
+using GenerationRules::JUNIOR;
+using GenerationRules::SENIOR;
 
 /// A check with the library's item for it. Its column counts from 1; 0 is no column.
 struct CheckRule : CheckDefinition

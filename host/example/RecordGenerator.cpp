@@ -1,7 +1,6 @@
 #include "RecordGenerator.h"
 
 #include <algorithm>
-#include <array>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -14,6 +13,7 @@
 #include "KZCValidResult.h"
 #include "ShiftJis.h"
 #include "validator/AgeWord.h"
+#include "validator/CheckDigit.h"
 
 namespace host {
 
@@ -90,15 +90,20 @@ std::string ToShiftJis(const std::string& strUtf8)
 /// Columns that tell the generation. The reference number, where there is one, stands first.
 std::vector<long> GenerationColumns(const std::string& strTypeId)
 {
-    if (strTypeId == "001")
-        return {2, 3, 4, 5, 23, 24};
-    if (strTypeId == "002")
-        return {19};
-    if (strTypeId == "007")
-        return {24, 7, 19, 20, 21, 22, 28, 29};
-    if (strTypeId == "008")
-        return {19, 2, 14, 15, 16, 17};
-    return {};
+    const GenerationRules::Rule* pRule = GenerationRules::Find(strTypeId);
+    std::vector<long> vecColumn;
+    if (pRule == nullptr || !pRule->HasBoth())
+        return vecColumn;
+    if (pRule->eKind == GenerationRules::Kind::REFERENCE) {
+        vecColumn.push_back(pRule->lReferenceColumn);
+        vecColumn.insert(vecColumn.end(), pRule->emptyColumns.begin(), pRule->emptyColumns.end());
+        return vecColumn;
+    }
+    for (long lCell = 0; lCell < DATE_CELLS; ++lCell)
+        vecColumn.push_back(GenerationRules::DATE_COLUMN + lCell);
+    vecColumn.insert(vecColumn.end(), GenerationRules::SENIOR_COLUMNS.begin(),
+                     GenerationRules::SENIOR_COLUMNS.end());
+    return vecColumn;
 }
 
 /// The characters of a UTF-8 text, each in Shift_JIS.
@@ -113,14 +118,6 @@ std::vector<std::string> Characters(const std::string& strUtf8)
         nStart = nEnd;
     }
     return vecCharacter;
-}
-
-int WeightedSum(const std::string& strDigits, const std::vector<int>& vecWeight)
-{
-    int nSum = 0;
-    for (std::size_t n = 0; n < vecWeight.size(); ++n)
-        nSum += (strDigits[n] - '0') * vecWeight[n];
-    return nSum;
 }
 
 /// A literal "YYYYMMDD" or "YYYY/MM/DD".
@@ -232,8 +229,8 @@ RecordGenerator::RecordGenerator(const FormRules& form,
 {
     const std::vector<long> vecColumn = GenerationColumns(form.strTypeId);
     m_setGenerationColumn.insert(vecColumn.begin(), vecColumn.end());
-    if (!vecColumn.empty() && form.strTypeId != "001")
-        m_lReferenceColumn = vecColumn.front();
+    if (const GenerationRules::Rule* pRule = GenerationRules::Find(form.strTypeId))
+        m_lReferenceColumn = pRule->lReferenceColumn;
     MakeUnits();
 }
 
@@ -501,13 +498,13 @@ std::vector<std::string> RecordGenerator::DrawDate(const Unit& unit, long lRow)
 {
     const sys_days day = DrawDay(DrawRange(unit, lRow));
     const year_month_day date{day};
-    const EraSpan& era = EraOf(day);
+    const EraYears era = EraOf(day);
     int nEra = era.nCode;
     int nYear = static_cast<int>(date.year()) - era.nYearBase;
     // The fourth era may be written on for a while after the fifth has begun.
-    if (nEra == 5 && day <= sys_days{year{2020} / 3 / 31} && Chance(10)) {
-        nEra = 4;
-        nYear += 30;
+    if (const auto before = EraBefore(day); before && Chance(10)) {
+        nEra = before->nCode;
+        nYear = static_cast<int>(date.year()) - before->nYearBase;
     }
     return {std::to_string(nEra), PadNumber(nYear), PadNumber(static_cast<unsigned>(date.month())),
             PadNumber(static_cast<unsigned>(date.day()))};
@@ -516,7 +513,7 @@ std::vector<std::string> RecordGenerator::DrawDate(const Unit& unit, long lRow)
 std::vector<std::string> RecordGenerator::DrawYear(const Unit& unit, long lRow)
 {
     const sys_days day = DrawDay(DrawRange(unit, lRow));
-    const EraSpan& era = EraOf(day);
+    const EraYears era = EraOf(day);
     return {std::to_string(era.nCode), PadNumber(YearOf(day) - era.nYearBase)};
 }
 
@@ -764,7 +761,7 @@ std::string RecordGenerator::DrawCell(const Unit& unit, long lRow)
 {
     const long lColumn = unit.vecColumn.front();
     if (m_strGeneration == JUNIOR && lColumn == m_lReferenceColumn)
-        return DrawNumbered("seiri");
+        return DrawNumbered(CheckDigit::REFERENCE);
     if (DrawsEmpty(unit, lRow))
         return "";
     const CellShape shape = Shape(unit, lRow);
@@ -969,23 +966,23 @@ std::string RecordGenerator::DrawText(const CellShape& shape)
 
 std::string RecordGenerator::DrawNumbered(const std::string& strKind)
 {
-    const std::size_t nDigits = strKind == "seiri" ? 13 : strKind == "hojin" ? 12 : 11;
+    const bool bReference = strKind == CheckDigit::REFERENCE;
+    const bool bCorporate = strKind == CheckDigit::CORPORATE;
+    const std::size_t nDigits = bReference   ? CheckDigit::REFERENCE_DIGITS
+                                : bCorporate ? CheckDigit::CORPORATE_DIGITS
+                                             : CheckDigit::PERSONAL_DIGITS;
     std::string strDigits;
     for (std::size_t n = 0; n < nDigits; ++n)
         strDigits += DIGITS[Random(0, 9)];
-    if (strKind == "seiri") {
+    if (bReference) {
         if (m_lReferenceColumn > 0 && m_strGeneration == JUNIOR)
             strDigits[0] = DIGITS[Random(4, 9)];
-        const int nRest = WeightedSum(strDigits, {14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2}) % 11;
-        return strDigits + DIGITS[(11 - nRest) % 10];
+        return strDigits + DIGITS[CheckDigit::OfReference(strDigits)];
     }
-    if (strKind == "hojin") {
-        const int nSum = WeightedSum(strDigits, {2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1});
-        return DIGITS[9 - nSum % 9] + strDigits;
-    }
-    const int nRest = WeightedSum(strDigits, {6, 5, 4, 3, 2, 7, 6, 5, 4, 3, 2}) % 11;
-    const std::string strNumber = strDigits + DIGITS[nRest < 2 ? 0 : 11 - nRest];
-    return strKind == "kojin2" ? "0" + strNumber : strNumber;
+    if (bCorporate)
+        return DIGITS[CheckDigit::OfCorporate(strDigits)] + strDigits;
+    const std::string strNumber = strDigits + DIGITS[CheckDigit::OfPersonal(strDigits)];
+    return strKind == CheckDigit::PERSONAL_BEHIND_ONE ? "0" + strNumber : strNumber;
 }
 
 /// The path of a file that is there and isn't empty if the cell is to name one, else a name alone.

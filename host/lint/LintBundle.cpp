@@ -7,16 +7,16 @@
 #include <set>
 #include <utility>
 
+#include "BundleFiles.h"
 #include "FamilyFolder.h"
 #include "FormDefinition.h"
 #include "KZCMacOSNative.h"
+#include "RecordLimit.h"
 #include "definition/SearchBounds.h"
 #include "lint/CheckColumns.h"
 
 namespace host {
 namespace {
-
-constexpr long BASE_MAX_RECORD = 5000;
 
 constexpr std::array<Family, 2> FOLDER_FAMILIES = {Family::Finance, Family::CrossBorder};
 
@@ -202,7 +202,7 @@ public:
         const std::vector<std::string> vecWanted = WantedTypeIds(eFamily);
         if (vecWanted.empty())
             return;
-        m_strFolder = eFamily == Family::Finance ? "Finance" : "CrossBorder";
+        m_strFolder = eFamily == Family::Finance ? BundleFiles::FINANCE : BundleFiles::CROSS_BORDER;
         const std::string strFolderPath = m_bundle.strPath + "/" + m_strFolder;
         if (!KZCMacOSNative::getFilesUnderFolder(strFolderPath.c_str(), m_vecPath)) {
             m_report.Add(LintRule::MissingFile, {m_strFolder, 0}, MISSING_FOLDER, {m_strFolder});
@@ -305,13 +305,14 @@ void ReadBase(LintBundle& bundle, const std::vector<std::string>& vecTypeId, Lin
     };
     if (!vecTypeId.empty() && !std::ranges::any_of(vecTypeId, isBase))
         return;
-    const std::string strPath = bundle.strPath + "/" + LINT_BASE_FILE;
+    const std::string strPath = bundle.strPath + "/" + BundleFiles::BASE_DEFINITION;
     if (!IsFile(strPath)) {
-        report.Add(LintRule::MissingFile, {LINT_BASE_FILE, 0}, MISSING_FILE, {"001-009"});
+        report.Add(LintRule::MissingFile, {BundleFiles::BASE_DEFINITION, 0}, MISSING_FILE,
+                   {"001-009"});
         return;
     }
     auto pFile = std::make_unique<LintFile>();
-    pFile->strName = LINT_BASE_FILE;
+    pFile->strName = BundleFiles::BASE_DEFINITION;
     pFile->xml = ReadXml(strPath, pFile->strName, report);
     if (ReadForms(*pFile, vecTypeId, report))
         bundle.vecFile.push_back(std::move(pFile));
@@ -511,7 +512,7 @@ std::size_t Distance(const std::string& strFirst, const std::string& strSecond)
 
 long LintFile::MaxRecord() const
 {
-    return eFamily == Family::Base ? BASE_MAX_RECORD : static_cast<long>(info.lMaxRecord);
+    return eFamily == Family::Base ? BASE_RECORDS_MAX : static_cast<long>(info.lMaxRecord);
 }
 
 LintBundle ReadLintBundle(const std::string& strPath,
@@ -523,11 +524,11 @@ LintBundle ReadLintBundle(const std::string& strPath,
     ReadBase(bundle, vecTypeId, report);
     for (const Family eFamily : FOLDER_FAMILIES)
         FolderReader(bundle, vecTypeId, report).Read(eFamily);
-    const std::string strOffices = strPath + "/" + LINT_OFFICES_FILE;
+    const std::string strOffices = strPath + "/" + BundleFiles::TAX_OFFICES;
     if (IsFile(strOffices))
-        bundle.offices = ReadXml(strOffices, LINT_OFFICES_FILE, report);
+        bundle.offices = ReadXml(strOffices, BundleFiles::TAX_OFFICES, report);
     else
-        report.Add(LintRule::MissingFile, {LINT_OFFICES_FILE, 0}, MISSING_FILE,
+        report.Add(LintRule::MissingFile, {BundleFiles::TAX_OFFICES, 0}, MISSING_FILE,
                    {"taxoffice, taxofficenm, zeimusho_cd"});
     return bundle;
 }

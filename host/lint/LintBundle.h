@@ -10,6 +10,7 @@
 #include "Family.h"
 #include "FormDefinition.h"
 #include "KZCDefinitionManager.h"
+#include "SpreadProcedure.h"
 #include "XmlTree.h"
 #include "lint/LintReport.h"
 #include "validator/ItemCatalogue.h"
@@ -89,7 +90,7 @@ struct LintFile
     bool HasChecks() const { return eRole != LintRole::Document; }
     bool HasDocument() const { return eRole != LintRole::Checks; }
     /// Several records make a report, with a head and a trailer.
-    bool IsMulti() const { return info.procId == "PGE1640"; }
+    bool IsMulti() const { return info.procId == SpreadProcedure::PROC_ID; }
     /// Records that a CSV file may have.
     long MaxRecord() const;
 };
@@ -108,9 +109,6 @@ struct LintBundle
     std::vector<LintProcedure> vecProcedure;
     XmlFile offices;
 };
-
-inline constexpr const char* LINT_BASE_FILE = "KZEkaDefine.xml";
-inline constexpr const char* LINT_OFFICES_FILE = "TaxOffices.xml";
 
 /// Reads the folder, and reports files that are missing, ambiguous, never read or no XML.
 /// \param vecTypeId  Only these type ids count; empty for all.

@@ -1,16 +1,13 @@
 // Ids against the library's catalogue of procedures, and the type ids of the base family.
 #include <algorithm>
-#include <array>
 #include <set>
 
+#include "GenerationRules.h"
 #include "JoinedText.h"
 #include "lint/LintTopics.h"
 
 namespace host {
 namespace {
-
-constexpr std::array<const char*, 9> BASE_TYPE_IDS = {"001", "002", "003", "004", "005",
-                                                      "006", "007", "008", "009"};
 
 constexpr LintTexts DIFFERENT = {
     {R"({1} is "{2}"; the library's catalogue has "{3}" for type id {4}.)",
@@ -50,13 +47,15 @@ void LookAtTypeIds(const LintFile& file,
         if (same != form)
             report.Add(LintRule::DuplicateReport, form->At(file.strName), DUPLICATE_REPORT,
                        {form->strTypeId, std::to_string(same->pElement->lLine)});
-        else if (std::ranges::find(BASE_TYPE_IDS, form->strTypeId) == BASE_TYPE_IDS.end())
+        else if (GenerationRules::Find(form->strTypeId) == nullptr)
             report.Add(LintRule::UnexpectedReport, form->At(file.strName), UNEXPECTED_REPORT,
                        {form->strTypeId});
     }
-    std::vector<std::string> vecWanted(BASE_TYPE_IDS.begin(), BASE_TYPE_IDS.end());
-    if (!vecTypeId.empty()) {
-        vecWanted = vecTypeId;
+    std::vector<std::string> vecWanted = vecTypeId;
+    if (vecTypeId.empty()) {
+        for (const GenerationRules::Rule& rule : GenerationRules::RULES)
+            vecWanted.emplace_back(rule.strTypeId);
+    } else {
         std::erase_if(vecWanted, [](const std::string& strTypeId) {
             return FamilyOfTypeId(strTypeId) != Family::Base;
         });

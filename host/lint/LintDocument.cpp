@@ -4,6 +4,7 @@
 #include <set>
 #include <tuple>
 
+#include "GenerationRules.h"
 #include "JoinedText.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintPages.h"
@@ -103,15 +104,16 @@ public:
 private:
     void LookAtBase(const LintForm& form)
     {
-        const bool bBoth = std::ranges::any_of(
-            form.vecItem, [](const LintItem& item) { return item.strGeneration == "junior"; });
+        const bool bBoth = std::ranges::any_of(form.vecItem, [](const LintItem& item) {
+            return item.strGeneration == GenerationRules::JUNIOR;
+        });
         for (const long lCount : SampleCounts(m_document, 1))
             for (long lRecord = 1; lRecord <= lCount; ++lRecord) {
                 if (!IsSampleRecord(m_document, lRecord, lCount))
                     continue;
-                WriteOne(form, "senior", lRecord, lCount);
+                WriteOne(form, GenerationRules::SENIOR, lRecord, lCount);
                 if (bBoth)
-                    WriteOne(form, "junior", lRecord, lCount);
+                    WriteOne(form, GenerationRules::JUNIOR, lRecord, lCount);
             }
     }
 
@@ -310,7 +312,7 @@ private:
 
     static bool IsGeneration(const std::string& strGeneration)
     {
-        return strGeneration == "junior" || strGeneration == "senior";
+        return strGeneration == GenerationRules::JUNIOR || strGeneration == GenerationRules::SENIOR;
     }
 
     static bool IsBefore(const LintItem& first, const LintItem& second) { return &first < &second; }

@@ -4,6 +4,7 @@
 #include <set>
 #include <string_view>
 
+#include "GenerationRules.h"
 #include "ITDataTables.h"
 #include "JoinedText.h"
 #include "definition/KZCEkaMOKDefineNode.h"
@@ -16,10 +17,6 @@ constexpr std::array<const char*, 8> TYPES = {"Normal",   "TAG", "Date",  "Kubun
                                               "Zeimusho", "Zip", "Bango", "IdRef"};
 /// Prefixes that a document declares.
 constexpr std::array<std::string_view, 3> PREFIXES = {"gen", "kyo", "xsi"};
-
-/// Type ids whose records can be of either generation; those of the others are all "senior".
-constexpr std::array<std::string_view, 4> BOTH_GENERATIONS = {"001", "002", "007", "008"};
-constexpr std::array<std::string_view, 5> SENIOR_ONLY = {"003", "004", "005", "006", "009"};
 
 /// "</" and ">" with the buffer's last byte.
 constexpr std::size_t TAG_NAME_MAX = TAG_BUFFER_SIZE - 4;
@@ -180,12 +177,14 @@ private:
         const std::string& strGeneration = item.strGeneration;
         if (strGeneration.empty())
             return;
-        if (strGeneration != "junior" && strGeneration != "senior") {
+        if (strGeneration != GenerationRules::JUNIOR && strGeneration != GenerationRules::SENIOR) {
             Add(LintRule::BadGeneration, item, WRONG_GENERATION, {strGeneration});
             return;
         }
-        const bool bSenior = strGeneration == "senior" && Has(SENIOR_ONLY);
-        if (m_file.eFamily != Family::Base || (!Has(BOTH_GENERATIONS) && !bSenior))
+        const GenerationRules::Rule* pRule = GenerationRules::Find(m_form.strTypeId);
+        const bool bCanBe =
+            pRule != nullptr && (pRule->HasBoth() || strGeneration == GenerationRules::SENIOR);
+        if (m_file.eFamily != Family::Base || !bCanBe)
             Add(LintRule::BadGeneration, item, NO_GENERATION, {strGeneration});
     }
 
@@ -260,12 +259,6 @@ private:
             Add(LintRule::BadRepeat, item, REPEAT_BELOW, {});
         else if (item.lStartRow < 1 || item.lEndRow < 1)
             Add(LintRule::BadRepeat, item, REPEAT_NO_ROWS, {});
-    }
-
-    template <class List>
-    bool Has(const List& list) const
-    {
-        return std::ranges::find(list, m_form.strTypeId) != list.end();
     }
 
     void Add(LintRule eRule,

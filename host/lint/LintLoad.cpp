@@ -3,6 +3,7 @@
 #include <limits>
 #include <optional>
 
+#include "BundleFiles.h"
 #include "definition/KZCEkaDefinition.h"
 #include "definition/KZCEkaDefinitionCrossBorder.h"
 #include "definition/KZCEkaDefinitionFinance.h"
@@ -10,8 +11,6 @@
 
 namespace host {
 namespace {
-
-constexpr const char* BUNDLE_VARIABLE = "KZEKAMOK_BUNDLE";
 
 constexpr LintTexts FAILS = {
     {"The library fails to load type id {1} for {2}.",
@@ -27,16 +26,16 @@ class BundleInUse
 public:
     explicit BundleInUse(const std::string& strPath)
     {
-        if (const char* szBefore = std::getenv(BUNDLE_VARIABLE))
+        if (const char* szBefore = std::getenv(BundleFiles::VARIABLE))
             m_before = szBefore;
-        ::setenv(BUNDLE_VARIABLE, strPath.c_str(), 1);
+        ::setenv(BundleFiles::VARIABLE, strPath.c_str(), 1);
     }
     ~BundleInUse()
     {
         if (m_before)
-            ::setenv(BUNDLE_VARIABLE, m_before->c_str(), 1);
+            ::setenv(BundleFiles::VARIABLE, m_before->c_str(), 1);
         else
-            ::unsetenv(BUNDLE_VARIABLE);
+            ::unsetenv(BundleFiles::VARIABLE);
     }
     BundleInUse(const BundleInUse&) = delete;
     BundleInUse& operator=(const BundleInUse&) = delete;

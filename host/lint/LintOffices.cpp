@@ -3,6 +3,7 @@
 #include <map>
 #include <set>
 
+#include "BundleFiles.h"
 #include "ShiftJis.h"
 #include "lint/LintTopics.h"
 
@@ -78,7 +79,7 @@ void LintOffices(const LintBundle& bundle, LintReport& report)
     static const std::set<std::string> KNOWN = {"OfficeType", "OfficeCode", "OfficeName"};
     std::map<std::string, long> mapLine;  // by code
     for (const XmlElement& office : bundle.offices.root->vecChild) {
-        const LintPlace place = {LINT_OFFICES_FILE, office.lLine};
+        const LintPlace place = {BundleFiles::TAX_OFFICES, office.lLine};
         if (office.strName != "TaxOffice") {
             report.Add(LintRule::UnknownElement, place, UNKNOWN, {office.strName});
             continue;
@@ -100,7 +101,8 @@ void LintOffices(const LintBundle& bundle, LintReport& report)
         LookAtName(office, place, report);
     }
     if (mapLine.empty())
-        report.Add(LintRule::NoOffice, {LINT_OFFICES_FILE, bundle.offices.root->lLine}, NO_OFFICE);
+        report.Add(LintRule::NoOffice, {BundleFiles::TAX_OFFICES, bundle.offices.root->lLine},
+                   NO_OFFICE);
 }
 
 }  // namespace host

@@ -13,6 +13,7 @@
 #include "KZCEkaITDataFinance.h"
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
+#include "SpreadProcedure.h"
 #include "definition/RunOnDefinition.h"
 
 namespace {
@@ -21,7 +22,6 @@ constexpr std::size_t MESSAGE_BUFFER_SIZE = 100;
 /// Numbers that a conversion draws and drops.
 constexpr long DRAWN_NUMBERS = 1000;
 /// The one procedure whose report spreads over all records.
-constexpr const char* PROCID_CSVRECORDTYPE = "PGE1640";
 /// A report that ends before the second record never hands over to the next.
 constexpr std::int64_t LEAST_HANDOVER_ROW = 2;
 
@@ -289,7 +289,7 @@ void KZCEkaDefinitionFinance::RaiseMissing(const char* szFunction)
 
 KZCEkaDefinitionFinance::CSV_RECORD_TYPE KZCEkaDefinitionFinance::getCsvRecordType() const
 {
-    return m_strProcId == PROCID_CSVRECORDTYPE ? CSV_RECORD_MULTI : CSV_RECORD_SINGLE;
+    return m_strProcId == SpreadProcedure::PROC_ID ? CSV_RECORD_MULTI : CSV_RECORD_SINGLE;
 }
 
 std::vector<std::string> KZCEkaDefinitionFinance::GetReportIDList() const

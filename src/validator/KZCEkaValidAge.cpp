@@ -37,7 +37,7 @@ int KZCEkaValidAge::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lColu
     const bool bWide = m_vecToken.size() > AgeWord::WIDENING &&
                        m_vecToken[AgeWord::WIDENING] == AgeWord::WIDENING_WORD;
     return RecordDate(eRefusal, lRow + 1,
-                      {lErrorColumn, bWide ? lErrorColumn + DATE_COLUMNS : SINGLE_COLUMN},
+                      {lErrorColumn, bWide ? lErrorColumn + DATE_LAST_CELL : SINGLE_COLUMN},
                       dates.strBirthDate);
 }
 

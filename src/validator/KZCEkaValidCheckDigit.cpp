@@ -1,35 +1,14 @@
 #include "KZCEkaValidCheckDigit.h"
 
-#include <array>
-#include <span>
-
 #include "ByteClass.h"
 #include "CText.h"
+#include "validator/CheckDigit.h"
 
 namespace {
 
-constexpr std::array<int, 11> WEIGHTS_KOJIN = {6, 5, 4, 3, 2, 7, 6, 5, 4, 3, 2};
-constexpr std::array<int, 12> WEIGHTS_HOJIN = {2, 1, 2, 1, 2, 1, 2, 1, 2, 1, 2, 1};
-constexpr std::array<int, 13> WEIGHTS_SEIRI = {14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2};
-
-constexpr int ELEVEN = 11;
-
-int Digit(char cByte)
-{
-    return cByte - '0';
-}
-
-int WeightedSum(std::string_view strDigits, std::span<const int> weights)
-{
-    int nSum = 0;
-    for (std::size_t nDigit = 0; nDigit < weights.size(); ++nDigit)
-        nSum += Digit(strDigits[nDigit]) * weights[nDigit];
-    return nSum;
-}
-
 KZCEkaMessage_t CompareDigit(char cDigit, int nExpected)
 {
-    return Digit(cDigit) == nExpected ? MSG_NONE : HE70010E;
+    return cDigit - '0' == nExpected ? MSG_NONE : HE70010E;
 }
 
 }  // namespace
@@ -41,28 +20,23 @@ void KZCEkaValidCheckDigit::SetParam(const char* szValue)
 
 KZCEkaMessage_t KZCEkaValidCheckDigit::CheckDijit_Kojin(std::string_view strNumber)
 {
-    if (strNumber.size() != WEIGHTS_KOJIN.size() + 1)
+    if (strNumber.size() != CheckDigit::PERSONAL_DIGITS + 1)
         return HE70008E;
-    const int nRest = WeightedSum(strNumber, WEIGHTS_KOJIN) % ELEVEN;
-    return CompareDigit(strNumber.back(), nRest < 2 ? 0 : ELEVEN - nRest);
+    return CompareDigit(strNumber.back(), CheckDigit::OfPersonal(strNumber));
 }
 
 KZCEkaMessage_t KZCEkaValidCheckDigit::CheckDijit_Hojin(std::string_view strNumber)
 {
-    constexpr int NINE = 9;
-    if (strNumber.size() != WEIGHTS_HOJIN.size() + 1)
+    if (strNumber.size() != CheckDigit::CORPORATE_DIGITS + 1)
         return HE70008E;
-    return CompareDigit(strNumber.front(),
-                        NINE - WeightedSum(strNumber.substr(1), WEIGHTS_HOJIN) % NINE);
+    return CompareDigit(strNumber.front(), CheckDigit::OfCorporate(strNumber.substr(1)));
 }
 
 KZCEkaMessage_t KZCEkaValidCheckDigit::CheckDijit_Seiri(std::string_view strNumber)
 {
-    constexpr int TEN = 10;
-    if (strNumber.size() != WEIGHTS_SEIRI.size() + 1)
+    if (strNumber.size() != CheckDigit::REFERENCE_DIGITS + 1)
         return HE70008E;
-    const int nRest = WeightedSum(strNumber, WEIGHTS_SEIRI) % ELEVEN;
-    return CompareDigit(strNumber.back(), (ELEVEN - nRest) % TEN);
+    return CompareDigit(strNumber.back(), CheckDigit::OfReference(strNumber));
 }
 
 KZCEkaMessage_t KZCEkaValidCheckDigit::_validate(const char* szValue)
@@ -76,15 +50,15 @@ KZCEkaMessage_t KZCEkaValidCheckDigit::_validate(const char* szValue)
 
     const std::string_view strNumber = CText::OrEmpty(szValue);
     KZCEkaMessage_t eVerdict = MSG_NONE;
-    if (m_strValue == "kojin")
+    if (m_strValue == CheckDigit::PERSONAL)
         eVerdict = CheckDijit_Kojin(strNumber);
-    else if (m_strValue == "kojin2")
+    else if (m_strValue == CheckDigit::PERSONAL_BEHIND_ONE)
         eVerdict = strNumber.empty()
                        ? HE70008E
                        : CheckDijit_Kojin(strNumber.substr(1).substr(0, SCRATCH_SIZE - 1));
-    else if (m_strValue == "hojin")
+    else if (m_strValue == CheckDigit::CORPORATE)
         eVerdict = CheckDijit_Hojin(strNumber);
-    else if (m_strValue == "seiri")
+    else if (m_strValue == CheckDigit::REFERENCE)
         eVerdict = CheckDijit_Seiri(strNumber);
     else
         RaiseParameterFault(FUNCTION);

@@ -18,7 +18,7 @@ int KZCEkaValidContainYear::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, lo
     const KZCEkaMessage_t eRefusal = _validate(strYear.c_str());
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, ReportedColumns(lYearColumn, YEAR_COLUMNS), strYear);
+    return RecordDate(eRefusal, lRow + 1, ReportedColumns(lYearColumn, YEAR_LAST_CELL), strYear);
 }
 
 int KZCEkaValidContainYear::ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow, long /*lColumn*/)

@@ -92,7 +92,7 @@ int KZCEkaValidDate::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lCol
     const KZCEkaMessage_t eRefusal = strDate.empty() ? HE70012E : _validate(strDate.c_str());
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, {lDateColumn + 1, lDateColumn + 1 + DATE_COLUMNS},
+    return RecordDate(eRefusal, lRow + 1, {lDateColumn + 1, lDateColumn + 1 + DATE_LAST_CELL},
                       strDate);
 }
 
@@ -223,7 +223,7 @@ bool KZCEkaValidDate::CheckCalulationConfig(const KZCEkaCsvFile* pCsv,
 {
     if (FindOptionalDate(szKind) == nullptr)
         return true;
-    for (long lCell = lColumn; lCell <= lColumn + DATE_COLUMNS; ++lCell)
+    for (long lCell = lColumn; lCell <= lColumn + DATE_LAST_CELL; ++lCell)
         if (*pCsv->GetItem(lRow, lCell) == '\0')
             return true;
     return false;
@@ -268,7 +268,7 @@ std::optional<std::string> KZCEkaValidDate::ReadReferred(
 {
     const long lRow = reference.lRow - 1;
     const long lColumn = reference.lColumn - 1;
-    if (*pCsv->GetItem(lRow, lColumn + DATE_COLUMNS) == '\0')
+    if (*pCsv->GetItem(lRow, lColumn + DATE_LAST_CELL) == '\0')
         return std::nullopt;
     std::string strDate = GetDateString2(pCsv, lRow, lColumn);
     if (strDate.empty())
@@ -281,7 +281,7 @@ KZCEkaValidDate::ErrorColumns KZCEkaValidDate::ReportedColumns(long lColumn, lon
     if (m_strErrColumn.empty())
         return {lColumn + 1, lColumn + 1 + lMore};
     const long lFirst = CText::ReadLong(m_strErrColumn.c_str());
-    return {lFirst, lFirst + DATE_COLUMNS};
+    return {lFirst, lFirst + DATE_LAST_CELL};
 }
 
 int KZCEkaValidDate::RecordDate(KZCEkaMessage_t eRefusal,

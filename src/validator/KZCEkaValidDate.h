@@ -74,9 +74,9 @@ protected:
         long lLast;
     };
 
-    /// Last of the columns of a date, and of an era year, less the first.
-    static constexpr long DATE_COLUMNS = 3;
-    static constexpr long YEAR_COLUMNS = 1;
+    /// The last cell of a date, and of an era year, counted from its first as 0.
+    static constexpr long DATE_LAST_CELL = 3;
+    static constexpr long YEAR_LAST_CELL = 1;
 
     /// The item's column, or the fallback if it has none.
     long CheckedColumn(long lFallback) const { return m_lColumn < 0 ? lFallback : m_lColumn; }

@@ -21,7 +21,7 @@ int KZCEkaValidEqualyear::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long
     const KZCEkaMessage_t eRefusal = _validate(strYear, strOther);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, {lYearColumn + 1, lYearColumn + 1 + YEAR_COLUMNS},
+    return RecordDate(eRefusal, lRow + 1, {lYearColumn + 1, lYearColumn + 1 + YEAR_LAST_CELL},
                       strYear);
 }
 

@@ -19,7 +19,7 @@ int KZCEkaValidRangebasedate::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, 
     const long lDateColumn = CheckedColumn(lColumn);
     if (HasBadReference()) {
         // Recorded whatever the item's settings are: wanted.
-        Record(HE70025E, lRow + 1, lDateColumn + 1, lDateColumn + 1 + DATE_COLUMNS, "", true);
+        Record(HE70025E, lRow + 1, lDateColumn + 1, lDateColumn + 1 + DATE_LAST_CELL, "", true);
         return STATUS_NG;
     }
     const auto dates = Resolve(pCsv, lRow, lDateColumn);
@@ -27,7 +27,7 @@ int KZCEkaValidRangebasedate::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, 
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
     const long lRecord = m_strErrRow.empty() ? lRow + 1 : CText::ReadLong(m_strErrRow.c_str());
-    return RecordDate(eRefusal, lRecord, ReportedColumns(lDateColumn, DATE_COLUMNS),
+    return RecordDate(eRefusal, lRecord, ReportedColumns(lDateColumn, DATE_LAST_CELL),
                       dates->strDate);
 }
 

@@ -33,7 +33,7 @@ int KZCEkaValidRangebasedate_2::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow
     const KZCEkaMessage_t eRefusal = _validate(strDate, *strMin, *strMax);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, ReportedColumns(lDateColumn, DATE_COLUMNS), strDate);
+    return RecordDate(eRefusal, lRow + 1, ReportedColumns(lDateColumn, DATE_LAST_CELL), strDate);
 }
 
 int KZCEkaValidRangebasedate_2::ValidateOuter(const KZCEkaCsvFile* pCsv,

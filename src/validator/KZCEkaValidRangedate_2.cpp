@@ -27,7 +27,7 @@ int KZCEkaValidRangedate_2::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, lo
         _validate(GetDateString(pCsv, lRow, CheckedColumn(lColumn)), strYear);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    Record(ReportedCode(eRefusal), lRow + 1, m_lYearColumn, m_lYearColumn + YEAR_COLUMNS,
+    Record(ReportedCode(eRefusal), lRow + 1, m_lYearColumn, m_lYearColumn + YEAR_LAST_CELL,
            strYear.c_str(), true);
     return STATUS_NG;
 }

@@ -20,7 +20,7 @@ int KZCEkaValidRangedate_3::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, lo
     const KZCEkaMessage_t eRefusal = _validate(strDate, strYear);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, {lDateColumn + 1, lDateColumn + 1 + DATE_COLUMNS},
+    return RecordDate(eRefusal, lRow + 1, {lDateColumn + 1, lDateColumn + 1 + DATE_LAST_CELL},
                       strDate);
 }
 
