@@ -5,16 +5,15 @@
 #include <vector>
 
 #include "CText.h"
-#include "Fault.h"
 
 namespace DateLiteral {
 
-std::string WithSlashes(std::string strLiteral)
+std::optional<std::string> WithSlashes(std::string strLiteral)
 {
     constexpr std::size_t MONTH_AND_DAY = 4;
     constexpr std::size_t DAY = 2;
     if (strLiteral.size() < MONTH_AND_DAY)
-        RaiseFault("DateLiteral::WithSlashes", nullptr);
+        return std::nullopt;
     strLiteral.insert(strLiteral.size() - MONTH_AND_DAY, "/");
     strLiteral.insert(strLiteral.size() - DAY, "/");
     return strLiteral;
@@ -24,7 +23,9 @@ std::string OfEightCharacters(const char* szLiteral)
 {
     constexpr std::size_t LENGTH = 8;
     const std::string strLiteral = CText::OrEmpty(szLiteral);
-    return strLiteral.size() == LENGTH ? WithSlashes(strLiteral) : std::string();
+    if (strLiteral.size() != LENGTH)
+        return {};
+    return WithSlashes(strLiteral).value_or(std::string());
 }
 
 std::optional<CellReference> ReadReference(const char* szParameter)

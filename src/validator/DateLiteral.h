@@ -7,8 +7,8 @@
 namespace DateLiteral {
 
 /// "20190430" as "2019/04/30": slashes before the last four and the last two characters.
-/// Throws FAULT for fewer than four characters.
-std::string WithSlashes(std::string strLiteral);
+/// Nothing for fewer than four characters.
+std::optional<std::string> WithSlashes(std::string strLiteral);
 /// The same for a literal of exactly eight characters; the empty text for any other.
 std::string OfEightCharacters(const char* szLiteral);
 

@@ -1,71 +1,78 @@
 #include "KZCEkaValidAge.h"
 
+#include <utility>
+
 #include "CText.h"
 #include "Fault.h"
 #include "KZCValidResult.h"
+#include "Wrapping.h"
 #include "validator/AgeWord.h"
-
-namespace {
-
-std::optional<int> ReadLimit(const char* szLimit)
-{
-    if (*CText::OrEmpty(szLimit) == '\0')
-        return std::nullopt;
-    return CText::ReadInt(szLimit);
-}
-
-}  // namespace
 
 void KZCEkaValidAge::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {
-    m_bGiven = *CText::OrEmpty(szValue) != '\0';
-    m_vecToken = CText::SplitTokens(CText::OrEmpty(szValue));
-    m_nMin = ReadLimit(szMin);
-    m_nMax = ReadLimit(szMax);
+    m_strValue = CText::OrEmpty(szValue);
+    m_strMin = CText::OrEmpty(szMin);
+    m_strMax = CText::OrEmpty(szMax);
+    m_vecToken = CText::SplitTokens(m_strValue);
+    m_nMin = CText::ReadInt(szMin);
+    m_nMax = CText::ReadInt(szMax);
 }
 
 int KZCEkaValidAge::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lColumn)
 {
-    RequireCsv(pCsv, "KZCEkaValidAge::ValidateCsv");
+    constexpr const char* FUNCTION = "KZCEkaValidAge::ValidateCsv";
+    RequireCsv(pCsv, FUNCTION);
     if (!OuterItemsHold(pCsv, lRow))
         return STATUS_OK;
-    const Dates dates = ReadDates(pCsv, lRow);
+    const Dates dates = ReadDates(pCsv, lRow, FUNCTION);
     const KZCEkaMessage_t eRefusal = _validate(dates.strBirthDate.c_str(), dates.strYear.c_str());
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    const long lErrorColumn = CheckedColumn(lColumn) + 1;
     const bool bWide = m_vecToken.size() > AgeWord::WIDENING &&
                        m_vecToken[AgeWord::WIDENING] == AgeWord::WIDENING_WORD;
-    return RecordDate(eRefusal, lRow + 1,
-                      {lErrorColumn, bWide ? lErrorColumn + DATE_LAST_CELL : SINGLE_COLUMN},
-                      dates.strBirthDate);
+    ErrorColumns columns = ColumnsFrom(CheckedColumn(lColumn), DATE_LAST_CELL);
+    if (!bWide)
+        columns.lLast = SINGLE_COLUMN;
+    return RecordDate(eRefusal, WrappingSum(lRow, 1), columns, dates.strBirthDate);
 }
 
 int KZCEkaValidAge::ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow, long /*lColumn*/)
 {
-    RequireCsv(pCsv, "KZCEkaValidAge::ValidateOuter");
-    const Dates dates = ReadDates(pCsv, lRow);
+    constexpr const char* FUNCTION = "KZCEkaValidAge::ValidateOuter";
+    RequireCsv(pCsv, FUNCTION);
+    const Dates dates = ReadDates(pCsv, lRow, FUNCTION);
     return _validate(dates.strBirthDate.c_str(), dates.strYear.c_str()) == MSG_NONE
                ? STATUS_OK
                : OuterRefused();
 }
 
-KZCEkaValidAge::Dates KZCEkaValidAge::ReadDates(const KZCEkaCsvFile* pCsv, long lRow)
+KZCEkaValidAge::Dates KZCEkaValidAge::ReadDates(const KZCEkaCsvFile* pCsv,
+                                                long lRow,
+                                                const char* szFunction)
 {
-    constexpr const char* FUNCTION = "KZCEkaValidAge::ReadDates";
-    if (!m_bGiven)
-        RaiseParameterFault(FUNCTION);
+    if (m_strValue.empty())
+        RaiseParameterFault(szFunction);
     const long lBirthColumn = CText::ReadLong(m_vecToken.at(AgeWord::BIRTH_COLUMN).c_str());
-    std::string strBirthDate = GetDateString(pCsv, lRow, lBirthColumn - 1);
+    std::string strBirthDate = GetDateString(pCsv, lRow, WrappingSum(lBirthColumn, -1));
     const long lYearColumn = CText::ReadLong(m_vecToken.at(AgeWord::YEAR_COLUMN).c_str());
     if (lYearColumn < 1)
-        RaiseParameterFault(FUNCTION);
+        RaiseParameterFault(szFunction);
     return {std::move(strBirthDate), GetYearString(pCsv, lRow, lYearColumn - 1)};
 }
 
 KZCEkaMessage_t KZCEkaValidAge::_validate(const char* szBirthDate, const char* szYear)
 {
     constexpr const char* FUNCTION = "KZCEkaValidAge::_validate";
+    const auto nAge = Guarded(FUNCTION, [&] { return Age(szBirthDate, szYear); });
+    if (!nAge)
+        return Refuse(HE70010E, FUNCTION, "日付の変換に失敗しました。");
+    if ((!m_strMin.empty() && *nAge < m_nMin) || (!m_strMax.empty() && *nAge > m_nMax))
+        return Refuse(HE70010E, FUNCTION);
+    return MSG_NONE;
+}
+
+std::optional<int> KZCEkaValidAge::Age(const char* szBirthDate, const char* szYear)
+{
     stSYSTEMTIME birth = {};
     stSYSTEMTIME reference = {};
     if (m_vecToken.size() <= AgeWord::DAY ||
@@ -74,8 +81,8 @@ KZCEkaMessage_t KZCEkaValidAge::_validate(const char* szBirthDate, const char* s
                                 .c_str(),
                             reference) ||
         !StringToSystemTime(szBirthDate, birth))
-        return Refuse(HE70010E, FUNCTION, "日付の変換に失敗しました。");
-
+        return std::nullopt;
+    // Years are 16 bits wide and wrap around: wanted.
     const auto wReferenceYear = static_cast<std::uint16_t>(
         reference.wYear +
         static_cast<long>(CText::ReadInt(m_vecToken[AgeWord::ADDED_YEARS].c_str())));
@@ -83,8 +90,5 @@ KZCEkaMessage_t KZCEkaValidAge::_validate(const char* szBirthDate, const char* s
     const int nDay = CText::ReadInt(m_vecToken[AgeWord::DAY].c_str());
     const bool bBeforeBirthday =
         nMonth < birth.wMonth || (nMonth == birth.wMonth && nDay < birth.wDay);
-    const int nAge = wReferenceYear - birth.wYear - (bBeforeBirthday ? 1 : 0);
-    if ((m_nMin && nAge < *m_nMin) || (m_nMax && nAge > *m_nMax))
-        return Refuse(HE70010E, FUNCTION);
-    return MSG_NONE;
+    return wReferenceYear - birth.wYear - (bBeforeBirthday ? 1 : 0);
 }

@@ -26,13 +26,18 @@ private:
     };
 
     /// Throws std::out_of_range with fewer than two words in the parameter.
-    Dates ReadDates(const KZCEkaCsvFile* pCsv, long lRow);
+    /// \param szFunction  The operation that asks, for the log.
+    Dates ReadDates(const KZCEkaCsvFile* pCsv, long lRow, const char* szFunction);
 
     using KZCEkaValidDate::_validate;
     KZCEkaMessage_t _validate(const char* szBirthDate, const char* szYear);
+    /// The age on the reference date, or nothing if either date can't be converted.
+    std::optional<int> Age(const char* szBirthDate, const char* szYear);
 
-    std::vector<std::string> m_vecToken;
-    bool m_bGiven = false;
-    std::optional<int> m_nMin;
-    std::optional<int> m_nMax;
+    std::string m_strValue;
+    std::string m_strMin;
+    std::string m_strMax;
+    std::vector<std::string> m_vecToken;  ///< of m_strValue
+    int m_nMin = 0;                       ///< years
+    int m_nMax = 0;
 };

@@ -14,7 +14,7 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
-    bool m_bGiven = false;
+    std::string m_strValue;
     NumberRange m_range;
-    std::vector<long> m_vecColumn;  ///< from 1
+    std::vector<long> m_vecColumn;  ///< of m_strValue, from 1
 };

@@ -5,23 +5,23 @@
 #include "CText.h"
 #include "Fault.h"
 #include "KZCEkaCsvFile.h"
+#include "Wrapping.h"
 
 void KZCEkaValidAnyExist::SetParam(const char* szValue)
 {
-    m_bGiven = *CText::OrEmpty(szValue) != '\0';
-    m_vecColumn = CText::SplitNumbers(CText::OrEmpty(szValue));
+    m_strValue = CText::OrEmpty(szValue);
+    m_vecColumn = CText::SplitNumbers(m_strValue);
 }
 
 KZCEkaMessage_t KZCEkaValidAnyExist::_validate(const char* /*szValue*/)
 {
     constexpr const char* FUNCTION = "KZCEkaValidAnyExist::_validate";
-    if (!m_bGiven)
+    if (m_strValue.empty())
         RaiseParameterFault(FUNCTION);
     if (m_pCsv == nullptr)
         RaiseFault(FUNCTION, nullptr);
-    return std::ranges::any_of(
-               m_vecColumn,
-               [this](long lColumn) { return *m_pCsv->GetItem(m_lRow, lColumn - 1) != '\0'; })
-               ? MSG_NONE
-               : Refuse(HE70001E, FUNCTION);
+    const auto isFilled = [this](long lColumn) {
+        return *m_pCsv->GetItem(m_lRow, WrappingSum(lColumn, -1)) != '\0';
+    };
+    return std::ranges::any_of(m_vecColumn, isFilled) ? MSG_NONE : HE70001E;
 }

@@ -13,6 +13,6 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
-    bool m_bGiven = false;
-    std::vector<long> m_vecColumn;  ///< from 1
+    std::string m_strValue;
+    std::vector<long> m_vecColumn;  ///< of m_strValue, from 1
 };

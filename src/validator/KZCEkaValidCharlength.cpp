@@ -20,7 +20,8 @@ long KZCEkaValidCharlength::CountCharacters(const char* szValue)
 KZCEkaMessage_t KZCEkaValidCharlength::_validate(const char* szValue)
 {
     constexpr const char* FUNCTION = "KZCEkaValidCharlength::_validate";
-    const auto bAllowed = m_limit.Allows(CountCharacters(szValue));
+    const auto bAllowed =
+        m_limit.Allows(Guarded(FUNCTION, [szValue] { return CountCharacters(szValue); }));
     if (!bAllowed)
         RaiseParameterFault(FUNCTION);
     return *bAllowed ? MSG_NONE : Refuse(HE70007E, FUNCTION);

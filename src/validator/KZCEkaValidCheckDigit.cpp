@@ -46,21 +46,18 @@ KZCEkaMessage_t KZCEkaValidCheckDigit::_validate(const char* szValue)
     if (m_strValue.empty())
         RaiseParameterFault(FUNCTION);
     if (!ByteClass::AllOf(szValue, ByteClass::IsDigit))
-        return Refuse(HE70004E, FUNCTION);
+        return HE70004E;
 
     const std::string_view strNumber = CText::OrEmpty(szValue);
-    KZCEkaMessage_t eVerdict = MSG_NONE;
     if (m_strValue == CheckDigit::PERSONAL)
-        eVerdict = CheckDijit_Kojin(strNumber);
-    else if (m_strValue == CheckDigit::PERSONAL_BEHIND_ONE)
-        eVerdict = strNumber.empty()
-                       ? HE70008E
-                       : CheckDijit_Kojin(strNumber.substr(1).substr(0, SCRATCH_SIZE - 1));
-    else if (m_strValue == CheckDigit::CORPORATE)
-        eVerdict = CheckDijit_Hojin(strNumber);
-    else if (m_strValue == CheckDigit::REFERENCE)
-        eVerdict = CheckDijit_Seiri(strNumber);
-    else
-        RaiseParameterFault(FUNCTION);
-    return eVerdict == MSG_NONE ? MSG_NONE : Refuse(eVerdict, FUNCTION);
+        return CheckDijit_Kojin(strNumber);
+    if (m_strValue == CheckDigit::PERSONAL_BEHIND_ONE)
+        return strNumber.empty()
+                   ? HE70008E
+                   : CheckDijit_Kojin(strNumber.substr(1).substr(0, SCRATCH_SIZE - 1));
+    if (m_strValue == CheckDigit::CORPORATE)
+        return CheckDijit_Hojin(strNumber);
+    if (m_strValue == CheckDigit::REFERENCE)
+        return CheckDijit_Seiri(strNumber);
+    RaiseParameterFault(FUNCTION);
 }

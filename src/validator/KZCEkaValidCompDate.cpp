@@ -1,11 +1,14 @@
 #include "KZCEkaValidCompDate.h"
 
+#include "CText.h"
 #include "DateLiteral.h"
-#include "Fault.h"
 #include "KZCMacOSNative.h"
 
 void KZCEkaValidCompDate::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {
+    m_strValue = CText::OrEmpty(szValue);
+    m_strMin = CText::OrEmpty(szMin);
+    m_strMax = CText::OrEmpty(szMax);
     m_strBound = DateLiteral::OfEightCharacters(szValue);
     if (!m_strBound.empty())
         return;
@@ -29,17 +32,18 @@ KZCEkaMessage_t KZCEkaValidCompDate::_validate(const char* szValue)
         EARLIER = 2,
     };
     if (m_strBound.empty())
-        RaiseFault(FUNCTION, nullptr);
-    switch (KZCMacOSNative::dateTimeComp(szValue, m_strBound.c_str())) {
+        RaiseParameterFault(FUNCTION);
+    switch (Guarded(FUNCTION,
+                    [&] { return KZCMacOSNative::dateTimeComp(szValue, m_strBound.c_str()); })) {
         case EQUAL:
             return MSG_NONE;
         case LATER:
-            return m_bLaterPasses ? MSG_NONE : Refuse(HE70010E, FUNCTION);
+            return m_bLaterPasses ? MSG_NONE : HE70010E;
         case EARLIER:
-            return m_bEarlierPasses ? MSG_NONE : Refuse(HE70010E, FUNCTION);
+            return m_bEarlierPasses ? MSG_NONE : HE70010E;
         case NO_DATE:
-            return Refuse(HE70012E, FUNCTION);
+            return HE70012E;
         default:
-            RaiseFault(FUNCTION, nullptr);
+            RaiseParameterFault(FUNCTION);
     }
 }

@@ -14,6 +14,9 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
+    std::string m_strValue;
+    std::string m_strMin;
+    std::string m_strMax;
     std::string m_strBound;  ///< with slashes; empty if no parameter is usable
     bool m_bLaterPasses = false;
     bool m_bEarlierPasses = false;

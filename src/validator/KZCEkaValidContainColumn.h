@@ -1,13 +1,21 @@
 #pragma once
 
-#include "KZCEkaValidColumnPair.h"
+#include "ColumnPair.h"
+#include "KZCEkaValidItem.h"
 
-/// Passes if the two cells agree.
-class KZCEkaValidContainColumn final : public KZCEkaValidColumnPair
+/// Passes if the item's cell and another one of the record agree.
+class KZCEkaValidContainColumn final : public KZCEkaValidItem
 {
 public:
-    using KZCEkaValidColumnPair::KZCEkaValidColumnPair;
+    using KZCEkaValidItem::KZCEkaValidItem;
+    /// \param szValue       The other column, from 1.
+    /// \param szMin, szMax  Taken away from and added to the item's cell.
+    void SetParam(const char* szValue, const char* szMin, const char* szMax);
+
+    int ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lColumn) override;
+    using KZCEkaValidItem::ValidateOuter;
+    int ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow, long lColumn) override;
 
 private:
-    KZCEkaMessage_t Verdict(bool bAgree) const override;
+    ColumnPair m_pair;
 };

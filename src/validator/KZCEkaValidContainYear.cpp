@@ -2,6 +2,7 @@
 
 #include "CText.h"
 #include "Fault.h"
+#include "Wrapping.h"
 
 void KZCEkaValidContainYear::SetParam(const char* szValue)
 {
@@ -18,7 +19,8 @@ int KZCEkaValidContainYear::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, lo
     const KZCEkaMessage_t eRefusal = _validate(strYear.c_str());
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, ReportedColumns(lYearColumn, YEAR_LAST_CELL), strYear);
+    return RecordDate(eRefusal, WrappingSum(lRow, 1), ReportedColumns(lYearColumn, YEAR_LAST_CELL),
+                      strYear);
 }
 
 int KZCEkaValidContainYear::ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow, long /*lColumn*/)
@@ -33,11 +35,14 @@ KZCEkaMessage_t KZCEkaValidContainYear::_validate(const char* szValue)
     constexpr const char* FUNCTION = "KZCEkaValidContainYear::_validate";
     constexpr int YEAR_WIDTH = 4;
     stSYSTEMTIME year = {};
-    if (!StringToSystemTime((std::string(CText::OrEmpty(szValue)) + "/01/01").c_str(), year))
+    if (!Guarded(FUNCTION, [&] {
+            return StringToSystemTime((std::string(CText::OrEmpty(szValue)) + "/01/01").c_str(),
+                                      year);
+        }))
         return Refuse(HE70025E, FUNCTION, "日付の変換に失敗しました。");
     if (!m_years.IsGiven())
         RaiseParameterFault(FUNCTION);
     std::string strYear;
     CText::AppendNumber(strYear, year.wYear, YEAR_WIDTH);
-    return m_years.Contains(strYear) ? MSG_NONE : Refuse(HE70025E, FUNCTION);
+    return m_years.Contains(strYear) ? MSG_NONE : HE70025E;
 }

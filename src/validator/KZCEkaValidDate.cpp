@@ -14,6 +14,7 @@
 #include "KZCMacOSNative.h"
 #include "validator/KZCEkaValidCharlength.h"
 #include "validator/RangeVerdict.h"
+#include "validator/Wrapping.h"
 
 namespace {
 
@@ -59,9 +60,10 @@ std::string Field(const char* szCell)
 
 std::string EraText(int nEra, const KZCEkaCsvFile& csv, long lRow, long lColumn)
 {
-    return CText::CutToBuffer(EraTable::Name(nEra) + Field(csv.GetItem(lRow, lColumn + 1)) + "/" +
-                                  Field(csv.GetItem(lRow, lColumn + 2)) + "/" +
-                                  Field(csv.GetItem(lRow, lColumn + 3)),
+    const auto field = [&](long lOffset) {
+        return Field(csv.GetItem(lRow, WrappingSum(lColumn, lOffset)));
+    };
+    return CText::CutToBuffer(EraTable::Name(nEra) + field(1) + "/" + field(2) + "/" + field(3),
                               DATE_BUFFER_SIZE);
 }
 
@@ -92,7 +94,7 @@ int KZCEkaValidDate::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lCol
     const KZCEkaMessage_t eRefusal = strDate.empty() ? HE70012E : _validate(strDate.c_str());
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, {lDateColumn + 1, lDateColumn + 1 + DATE_LAST_CELL},
+    return RecordDate(eRefusal, WrappingSum(lRow, 1), ColumnsFrom(lDateColumn, DATE_LAST_CELL),
                       strDate);
 }
 
@@ -130,7 +132,7 @@ std::string KZCEkaValidDate::GetDateString2(const KZCEkaCsvFile* pCsv, long lRow
     constexpr std::array<CellRule, 4> RULES = {{{1, 0, ANY}, {2, 1, 99}, {2, 1, 12}, {2, 1, 31}}};
     for (std::size_t nCell = 0; nCell < RULES.size(); ++nCell) {
         const CellRule& rule = RULES[nCell];
-        const char* szCell = pCsv->GetItem(lRow, lColumn + static_cast<long>(nCell));
+        const char* szCell = pCsv->GetItem(lRow, WrappingSum(lColumn, static_cast<long>(nCell)));
         const int nNumber = CText::ReadInt(szCell);
         if (*szCell == '\0' || !isNumber(szCell) || strcount(szCell) > rule.nMaxLength ||
             nNumber < rule.nMin || nNumber > rule.nMax)
@@ -161,8 +163,9 @@ std::string KZCEkaValidDate::GetYearString(const KZCEkaCsvFile* pCsv, long lRow,
 {
     const int nEra = CText::ReadInt(pCsv->GetItem(lRow, lColumn));
     if (EraTable::IsEra(nEra))
-        return CText::CutToBuffer(EraTable::Name(nEra) + Field(pCsv->GetItem(lRow, lColumn + 1)),
-                                  DATE_BUFFER_SIZE);
+        return CText::CutToBuffer(
+            EraTable::Name(nEra) + Field(pCsv->GetItem(lRow, WrappingSum(lColumn, 1))),
+            DATE_BUFFER_SIZE);
     KZCDebugDump::Log("KZCEkaValidDate::GetYearString", BAD_ERA);
     return {};
 }
@@ -223,8 +226,8 @@ bool KZCEkaValidDate::CheckCalulationConfig(const KZCEkaCsvFile* pCsv,
 {
     if (FindOptionalDate(szKind) == nullptr)
         return true;
-    for (long lCell = lColumn; lCell <= lColumn + DATE_LAST_CELL; ++lCell)
-        if (*pCsv->GetItem(lRow, lCell) == '\0')
+    for (long lOffset = 0; lOffset <= DATE_LAST_CELL; ++lOffset)
+        if (*pCsv->GetItem(lRow, WrappingSum(lColumn, lOffset)) == '\0')
             return true;
     return false;
 }
@@ -266,9 +269,9 @@ bool KZCEkaValidDate::StringToSystemTime(const char* szValue, stSYSTEMTIME& stTi
 std::optional<std::string> KZCEkaValidDate::ReadReferred(
     const KZCEkaCsvFile* pCsv, const DateLiteral::CellReference& reference)
 {
-    const long lRow = reference.lRow - 1;
-    const long lColumn = reference.lColumn - 1;
-    if (*pCsv->GetItem(lRow, lColumn + DATE_LAST_CELL) == '\0')
+    const long lRow = WrappingSum(reference.lRow, -1);
+    const long lColumn = WrappingSum(reference.lColumn, -1);
+    if (*pCsv->GetItem(lRow, WrappingSum(lColumn, DATE_LAST_CELL)) == '\0')
         return std::nullopt;
     std::string strDate = GetDateString2(pCsv, lRow, lColumn);
     if (strDate.empty())
@@ -279,9 +282,15 @@ std::optional<std::string> KZCEkaValidDate::ReadReferred(
 KZCEkaValidDate::ErrorColumns KZCEkaValidDate::ReportedColumns(long lColumn, long lMore) const
 {
     if (m_strErrColumn.empty())
-        return {lColumn + 1, lColumn + 1 + lMore};
+        return ColumnsFrom(lColumn, lMore);
     const long lFirst = CText::ReadLong(m_strErrColumn.c_str());
-    return {lFirst, lFirst + DATE_LAST_CELL};
+    return {lFirst, WrappingSum(lFirst, DATE_LAST_CELL)};
+}
+
+KZCEkaValidDate::ErrorColumns KZCEkaValidDate::ColumnsFrom(long lColumn, long lMore)
+{
+    const long lFirst = WrappingSum(lColumn, 1);
+    return {lFirst, WrappingSum(lFirst, lMore)};
 }
 
 int KZCEkaValidDate::RecordDate(KZCEkaMessage_t eRefusal,

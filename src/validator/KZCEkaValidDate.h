@@ -86,6 +86,8 @@ protected:
                                             const DateLiteral::CellReference& reference);
     /// The columns from lColumn (from 0) to that + lMore, or the four of "errcolumn" if it is set.
     ErrorColumns ReportedColumns(long lColumn, long lMore) const;
+    /// The columns from lColumn (from 0) to that + lMore.
+    static ErrorColumns ColumnsFrom(long lColumn, long lMore);
     /// Records a refusal unless recording is off. \param lRecord  From 1. \return STATUS_NG.
     int RecordDate(KZCEkaMessage_t eRefusal,
                    long lRecord,

@@ -5,10 +5,10 @@
 namespace {
 
 /// The first bytes of a list's tokens.
-std::string FirstBytes(const char* szList)
+std::string FirstBytes(const std::string& strList)
 {
     std::string strBytes;
-    for (const std::string& strToken : CText::SplitTokens(CText::OrEmpty(szList)))
+    for (const std::string& strToken : CText::SplitTokens(strList))
         strBytes += strToken.front();
     return strBytes;
 }
@@ -17,16 +17,18 @@ std::string FirstBytes(const char* szList)
 
 void KZCEkaValidDigitEquality::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {
-    m_bGiven = *CText::OrEmpty(szValue) != '\0';
-    m_vecPosition = CText::SplitNumbers(CText::OrEmpty(szValue));
-    m_strForbidden = FirstBytes(szMin);
-    m_strAllowed = FirstBytes(szMax);
+    m_strValue = CText::OrEmpty(szValue);
+    m_strMax = CText::OrEmpty(szMax);
+    m_strMin = CText::OrEmpty(szMin);
+    m_vecPosition = CText::SplitNumbers(m_strValue);
+    m_strAllowed = FirstBytes(m_strMax);
+    m_strForbidden = FirstBytes(m_strMin);
 }
 
 KZCEkaMessage_t KZCEkaValidDigitEquality::_validate(const char* szValue)
 {
     constexpr const char* FUNCTION = "KZCEkaValidDigitEquality::_validate";
-    if (!m_bGiven)
+    if (m_strValue.empty())
         RaiseParameterFault(FUNCTION);
     const std::string_view strValue = CText::OrEmpty(szValue);
     for (const long lPosition : m_vecPosition) {
@@ -38,7 +40,7 @@ KZCEkaMessage_t KZCEkaValidDigitEquality::_validate(const char* szValue)
         const bool bPasses = m_strAllowed.empty() ? m_strForbidden.find(cByte) == std::string::npos
                                                   : m_strAllowed.find(cByte) != std::string::npos;
         if (!bPasses)
-            return Refuse(HE70010E, FUNCTION);
+            return HE70010E;
     }
     return MSG_NONE;
 }

@@ -14,8 +14,10 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
-    bool m_bGiven = false;
-    std::vector<long> m_vecPosition;  ///< from 1
-    std::string m_strAllowed;         ///< first bytes of the tokens
-    std::string m_strForbidden;
+    std::string m_strValue;
+    std::string m_strMax;
+    std::string m_strMin;
+    std::vector<long> m_vecPosition;  ///< of m_strValue, from 1
+    std::string m_strAllowed;         ///< first bytes of the tokens of m_strMax
+    std::string m_strForbidden;       ///< the same of m_strMin
 };

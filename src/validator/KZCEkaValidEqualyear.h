@@ -18,8 +18,12 @@ public:
 private:
     using KZCEkaValidDate::_validate;
     KZCEkaMessage_t _validate(const std::string& strYear, const std::string& strOther);
-    std::string ReadOtherYear(const KZCEkaCsvFile* pCsv, long lRow);
+    /// \param szFunction  The operation that asks, for the log.
+    std::string ReadOtherYear(const KZCEkaCsvFile* pCsv, long lRow, const char* szFunction);
 
+    std::string m_strValue;
+    std::string m_strMin;
+    std::string m_strMax;
     long m_lOtherColumn = 0;  ///< from 1
     long m_lOffset = 0;       ///< years
 };

@@ -10,6 +10,7 @@ KZCEkaMessage_t KZCEkaValidExcept::_validate(const char* szValue)
     constexpr const char* FUNCTION = "KZCEkaValidExcept::_validate";
     if (!m_list.IsGiven())
         RaiseParameterFault(FUNCTION);
-    return szValue != nullptr && m_list.ContainsCell(szValue) ? Refuse(HE99999E, FUNCTION)
-                                                              : MSG_NONE;
+    return szValue != nullptr && Guarded(FUNCTION, [&] { return m_list.ContainsCell(szValue); })
+               ? HE99999E
+               : MSG_NONE;
 }

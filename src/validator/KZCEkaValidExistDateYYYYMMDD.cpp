@@ -2,8 +2,11 @@
 
 #include "CText.h"
 #include "Fault.h"
+#include "KZCDebugDump.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCMacOSNative.h"
+#include "KZCValidResult.h"
+#include "Wrapping.h"
 
 namespace {
 
@@ -18,34 +21,39 @@ void KZCEkaValidExistDateYYYYMMDD::SetParam(const char* szValue)
 
 KZCEkaMessage_t KZCEkaValidExistDateYYYYMMDD::_validate(const char* /*szValue*/)
 {
-    constexpr int LAST_SHORT_YEAR = 99;
     if (m_strValue.empty())
         RaiseParameterFault(FUNCTION);
     if (m_pCsv == nullptr)
         RaiseFault(FUNCTION, nullptr);
-    const std::vector<long> vecColumn = ReadColumns();
-    const long lYear = vecColumn[0];
-    const long lDay = vecColumn[2];
-    const std::string strDate = GetYYYYMMDDStr(m_pCsv, lYear, vecColumn[1], lDay);
-    if (strDate.empty() || (CText::ReadInt(m_pCsv->GetItem(m_lRow, lYear)) > LAST_SHORT_YEAR &&
-                            KZCMacOSNative::dateTimeChange(strDate.c_str())))
-        return MSG_NONE;
-    const KZCEkaMessage_t eCode = ReportedCode(HE70012E);
-    Record(eCode, m_lRow + 1, lYear + 1, lDay + 1, strDate.c_str(), true);
-    m_bErrOutput = false;
-    return eCode;
+    const Columns columns = ReadColumns();
+    return Guarded(FUNCTION, [&] {
+        const std::string strDate =
+            GetYYYYMMDDStr(m_pCsv, columns.lYear, columns.lMonth, columns.lDay);
+        if (strDate.empty() || IsReal(strDate, columns))
+            return MSG_NONE;
+        const KZCEkaMessage_t eCode = ReportedCode(HE70012E);
+        const long lRecord = WrappingSum(m_lRow, 1);
+        KZCValidResult::instance()->SetResult(eCode, lRecord, WrappingSum(columns.lYear, 1),
+                                              WrappingSum(columns.lDay, 1));
+        m_bErrOutput = false;
+        // The trace names the item's own column, not that of the year: wanted.
+        KZCDebugDump::OutputValid(eCode, lRecord, WrappingSum(m_lColumn, 1), strDate.c_str(), true);
+        return eCode;
+    });
 }
 
-/// Columns of year, month and day, from 0.
-std::vector<long> KZCEkaValidExistDateYYYYMMDD::ReadColumns() const
+KZCEkaValidExistDateYYYYMMDD::Columns KZCEkaValidExistDateYYYYMMDD::ReadColumns() const
 {
     std::vector<long> vecColumn;
-    try {
-        SplitValue(m_strValue, vecColumn, " ");
-    } catch (...) {
-        RaiseFault(FUNCTION, nullptr);
-    }
+    Guarded(FUNCTION, [&] { SplitValue(m_strValue, vecColumn, " "); });
     if (vecColumn.size() != 3)
         RaiseFault(FUNCTION, "定義体パラメータ不足。");
-    return vecColumn;
+    return {vecColumn[0], vecColumn[1], vecColumn[2]};
+}
+
+bool KZCEkaValidExistDateYYYYMMDD::IsReal(const std::string& strDate, const Columns& columns) const
+{
+    constexpr int LAST_SHORT_YEAR = 99;
+    return CText::ReadInt(m_pCsv->GetItem(m_lRow, columns.lYear)) > LAST_SHORT_YEAR &&
+           KZCMacOSNative::dateTimeChange(strDate.c_str());
 }

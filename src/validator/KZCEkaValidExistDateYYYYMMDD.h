@@ -14,7 +14,17 @@ public:
 
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
-    std::vector<long> ReadColumns() const;
+    /// Columns of year, month and day, from 0.
+    struct Columns
+    {
+        long lYear;
+        long lMonth;
+        long lDay;
+    };
+
+    Columns ReadColumns() const;
+    /// The three cells are a real date.
+    bool IsReal(const std::string& strDate, const Columns& columns) const;
 
     std::string m_strValue;
 };

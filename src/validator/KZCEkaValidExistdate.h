@@ -1,9 +1,9 @@
 #pragma once
 
-#include "KZCEkaValidEraSpan.h"
+#include "KZCEkaValidDate.h"
 
 /// Passes an era date that exists. The fourth era counts up to March of its year 32.
-class KZCEkaValidExistdate final : public KZCEkaValidEraSpan
+class KZCEkaValidExistdate final : public KZCEkaValidDate
 {
 public:
     KZCEkaValidExistdate(long lColumn, KZCEkaMessage_t eMessage);

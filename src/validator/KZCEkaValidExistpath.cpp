@@ -14,6 +14,11 @@ KZCEkaMessage_t CheckFile(const char* szPath)
     return KZCMacOSNative::getFileSize(szPath) > 0 ? MSG_NONE : HE70024E;
 }
 
+KZCEkaMessage_t CheckFolder(const char* szPath)
+{
+    return KZCMacOSNative::pathDirectoryExists(szPath) ? MSG_NONE : HE70010E;
+}
+
 }  // namespace
 
 void KZCEkaValidExistpath::SetParam(const char* szValue)
@@ -25,13 +30,10 @@ KZCEkaMessage_t KZCEkaValidExistpath::_validate(const char* szValue)
 {
     constexpr const char* FUNCTION = "KZCEkaValidExistpath::_validate";
     if (*CText::OrEmpty(szValue) == '\0')
-        return Refuse(HE70001E, FUNCTION);
-    KZCEkaMessage_t eVerdict = MSG_NONE;
+        return HE70001E;
     if (m_strValue == "file")
-        eVerdict = CheckFile(szValue);
-    else if (m_strValue == "dir")
-        eVerdict = KZCMacOSNative::pathDirectoryExists(szValue) ? MSG_NONE : HE70010E;
-    else
-        RaiseParameterFault(FUNCTION);
-    return eVerdict == MSG_NONE ? MSG_NONE : Refuse(eVerdict, FUNCTION);
+        return Guarded(FUNCTION, [szValue] { return CheckFile(szValue); });
+    if (m_strValue == "dir")
+        return Guarded(FUNCTION, [szValue] { return CheckFolder(szValue); });
+    RaiseParameterFault(FUNCTION);
 }

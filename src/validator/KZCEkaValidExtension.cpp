@@ -14,7 +14,6 @@ KZCEkaMessage_t KZCEkaValidExtension::_validate(const char* szValue)
         RaiseParameterFault(FUNCTION);
     const std::string_view strPath = CText::OrEmpty(szValue);
     const std::size_t nDot = strPath.rfind('.');
-    return nDot != std::string_view::npos && m_list.Contains(strPath.substr(nDot))
-               ? MSG_NONE
-               : Refuse(HE70015E, FUNCTION);
+    return nDot != std::string_view::npos && m_list.Contains(strPath.substr(nDot)) ? MSG_NONE
+                                                                                   : HE70015E;
 }

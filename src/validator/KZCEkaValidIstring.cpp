@@ -1,5 +1,6 @@
 #include "KZCEkaValidIstring.h"
 
+#include <optional>
 #include <string_view>
 
 #include "CText.h"
@@ -20,28 +21,33 @@ unsigned LeadCode(std::string_view strCharacter)
     return nCode;
 }
 
-}  // namespace
-
-KZCEkaMessage_t KZCEkaValidIstring::_validate(const char* szValue)
+/// The first code or unit that is in no range, or nothing.
+std::optional<unsigned> FirstRefused(const char* szValue)
 {
     const std::string_view strValue = CText::OrEmpty(szValue);
-    const auto refuse = [](unsigned nCode) {
-        return Refuse(HE70006E, FUNCTION, std::to_string(nCode).c_str());
-    };
-
     std::size_t nByte = 0;
     for (const unsigned char nLength :
          KZCMacOSNative::getStringLengths(szValue, !KZCEkaCommon::GetCsvCheckFlag())) {
         const unsigned nCode = LeadCode(strValue.substr(nByte, nLength));
         if (!IstringTable::ContainsCode(nCode))
-            return refuse(nCode);
+            return nCode;
         nByte += nLength;
     }
     if (nByte < strValue.size())  // it can't be decoded
-        return refuse(LeadCode(strValue));
-
+        return LeadCode(strValue);
     for (const char16_t cUnit : KZCEkaCommon::ConvertSPChar(szValue))
         if (!IstringTable::ContainsUnit(cUnit))
-            return refuse(cUnit);
-    return MSG_NONE;
+            return cUnit;
+    return std::nullopt;
+}
+
+}  // namespace
+
+KZCEkaMessage_t KZCEkaValidIstring::_validate(const char* szValue)
+{
+    const auto nRefused = Guarded(FUNCTION, [szValue] { return FirstRefused(szValue); });
+    if (!nRefused)
+        return MSG_NONE;
+    return Guarded(FUNCTION,
+                   [&] { return Refuse(HE70006E, FUNCTION, std::to_string(*nRefused).c_str()); });
 }

@@ -1,6 +1,7 @@
 #include "KZCEkaValidItem.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include "CText.h"
@@ -9,6 +10,7 @@
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCValidResult.h"
+#include "Wrapping.h"
 
 KZCEkaValidItem::KZCEkaValidItem(long lColumn, KZCEkaMessage_t eMessage)
     : m_eMessage(eMessage), m_lColumn(lColumn)
@@ -32,10 +34,7 @@ int KZCEkaValidItem::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long /*lC
     const KZCEkaMessage_t eRefusal = _validate(szCell);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    if (m_bErrOutput)
-        Record(ReportedCode(eRefusal), lRow + 1, m_lColumn + 1, SINGLE_COLUMN, szCell,
-               !KZCEkaCommon::GetCsvCheckFlag());
-    return STATUS_NG;
+    return RecordCell(eRefusal, lRow, szCell, !KZCEkaCommon::GetCsvCheckFlag());
 }
 
 int KZCEkaValidItem::Validate(const char* szValue, long lRow, long lColumn)
@@ -112,7 +111,7 @@ void KZCEkaValidItem::SplitValue(const std::string& strValue,
     std::size_t nEnd = 0;
     do {
         nEnd = strDelimiter.empty() ? std::string::npos : strValue.find(strDelimiter, nStart);
-        vecColumn.push_back(std::stol(strValue.substr(nStart, nEnd - nStart)) - 1);
+        vecColumn.push_back(WrappingSum(std::stol(strValue.substr(nStart, nEnd - nStart)), -1));
         nStart = nEnd + strDelimiter.size();
     } while (nEnd != std::string::npos);
 }
@@ -133,6 +132,17 @@ bool KZCEkaValidItem::OuterItemsHold(const KZCEkaCsvFile* pCsv, long lRow)
     return std::ranges::all_of(m_vecOuter, [&](const auto& pOuter) {
         return pOuter->ValidateOuter(pCsv, lRow, -1) == STATUS_OK;
     });
+}
+
+int KZCEkaValidItem::RecordCell(KZCEkaMessage_t eRefusal,
+                                long lRow,
+                                const char* szCell,
+                                bool bUtf8) const
+{
+    if (m_bErrOutput)
+        Record(ReportedCode(eRefusal), WrappingSum(lRow, 1), WrappingSum(m_lColumn, 1),
+               SINGLE_COLUMN, szCell, bUtf8);
+    return STATUS_NG;
 }
 
 void KZCEkaValidItem::Record(KZCEkaMessage_t eMessage,
@@ -160,6 +170,17 @@ KZCEkaMessage_t KZCEkaValidItem::Refuse(KZCEkaMessage_t eMessage,
 {
     KZCDebugDump::OutputLog(szFile, lLine, szFunction, szMessage);
     return eMessage;
+}
+
+void KZCEkaValidItem::RaiseCaught(const char* szFunction, const char* szFile, long lLine)
+{
+    try {
+        throw;
+    } catch (const std::bad_alloc&) {
+        RaiseFault(szFunction, "メモリ確保エラー。", szFile, lLine);
+    } catch (...) {
+        RaiseFault(szFunction, nullptr, szFile, lLine);
+    }
 }
 
 void KZCEkaValidItem::RaiseParameterFault(const char* szFunction, const char* szFile, long lLine)

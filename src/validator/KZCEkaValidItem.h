@@ -71,6 +71,9 @@ protected:
     {
         return m_eMessage != MSG_NONE ? m_eMessage : eRefusal;
     }
+    /// Records a refusal of the item's cell unless recording is off. \return STATUS_NG.
+    /// \param lRow  From 0. \param bUtf8  Encoding of szCell, for the trace.
+    int RecordCell(KZCEkaMessage_t eRefusal, long lRow, const char* szCell, bool bUtf8) const;
     /// Records an error and traces the value. Numbers from 1; \param bUtf8  Encoding of szValue.
     static void Record(KZCEkaMessage_t eMessage,
                        long lRecord,
@@ -86,6 +89,25 @@ protected:
                                   const char* szMessage = nullptr,
                                   const char* szFile = __builtin_FILE(),
                                   long lLine = __builtin_LINE());
+    /// The answer of a service that may raise. What it raises is logged under szFunction and thrown
+    /// as FAULT: nothing else leaves a rule.
+    template <class Service>
+    static auto Guarded(const char* szFunction,
+                        Service service,
+                        const char* szFile = __builtin_FILE(),
+                        long lLine = __builtin_LINE())
+    {
+        try {
+            return service();
+        } catch (...) {
+            RaiseCaught(szFunction, szFile, lLine);
+        }
+    }
+    /// For a handler: logs what was caught, "メモリ確保エラー。" if memory ran out and no message
+    /// otherwise, and throws FAULT.
+    [[noreturn]] static void RaiseCaught(const char* szFunction,
+                                         const char* szFile = __builtin_FILE(),
+                                         long lLine = __builtin_LINE());
     /// Logs "定義体パラメータ指定エラー。" and throws FAULT.
     [[noreturn]] static void RaiseParameterFault(const char* szFunction,
                                                  const char* szFile = __builtin_FILE(),

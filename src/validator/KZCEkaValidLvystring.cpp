@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <functional>
-#include <string_view>
 
 #include "CText.h"
 #include "KZCEkaCommon.h"
@@ -46,16 +45,17 @@ constexpr bool IsAccepted(char16_t cUnit)
 
 void KZCEkaValidLvystring::SetParam(const char* szValue)
 {
-    m_bAllowLineFeed = std::string_view(CText::OrEmpty(szValue)) == "allow_LF";
+    m_strValue = CText::OrEmpty(szValue);
+    m_bAllowLineFeed = m_strValue == "allow_LF";
 }
 
 KZCEkaMessage_t KZCEkaValidLvystring::_validate(const char* szValue)
 {
-    const std::u16string strUnits = KZCEkaCommon::ConvertSPChar(szValue);
+    constexpr const char* FUNCTION = "KZCEkaValidLvystring::_validate";
+    const std::u16string strUnits =
+        Guarded(FUNCTION, [szValue] { return KZCEkaCommon::ConvertSPChar(szValue); });
     const auto isAccepted = [this](char16_t cUnit) {
         return cUnit == u'\n' ? m_bAllowLineFeed : IsAccepted(cUnit);
     };
-    return std::ranges::all_of(strUnits, isAccepted)
-               ? MSG_NONE
-               : Refuse(HE70006E, "KZCEkaValidLvystring::_validate");
+    return std::ranges::all_of(strUnits, isAccepted) ? MSG_NONE : Refuse(HE70006E, FUNCTION);
 }

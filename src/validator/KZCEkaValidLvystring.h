@@ -13,5 +13,6 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
+    std::string m_strValue;
     bool m_bAllowLineFeed = false;
 };

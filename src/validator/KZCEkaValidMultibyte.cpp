@@ -13,8 +13,10 @@ KZCEkaMessage_t KZCEkaValidMultibyte::_validate(const char* szValue)
     // An odd length alone refuses a value of wide characters only at the end of the walk.
     const KZCEkaMessage_t eNoted = nBytes % 2 == 1 ? Refuse(HE99999E, FUNCTION) : MSG_NONE;
     std::size_t nTotal = 0;
-    for (const unsigned char nLength :
-         KZCMacOSNative::getStringLengths(szValue, !KZCEkaCommon::GetCsvCheckFlag())) {
+    const auto vecLength = Guarded(FUNCTION, [szValue] {
+        return KZCMacOSNative::getStringLengths(szValue, !KZCEkaCommon::GetCsvCheckFlag());
+    });
+    for (const unsigned char nLength : vecLength) {
         if (nLength < 2)
             return Refuse(HE99999E, FUNCTION);
         nTotal += nLength;

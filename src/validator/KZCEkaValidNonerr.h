@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-
 #include "KZCEkaValidItem.h"
 
 /// Passes if none of the listed columns is in error so far. Records nothing when it refuses.
@@ -20,7 +18,8 @@ private:
     using KZCEkaValidItem::_validate;
     KZCEkaMessage_t _validate(long lRecord) const;
 
-    bool m_bGiven = false;
-    std::optional<long> m_lRecord;  ///< from 1
-    std::vector<long> m_vecColumn;  ///< from 1
+    std::string m_strValue;
+    std::string m_strMin;
+    long m_lRecord = 0;             ///< of m_strMin, from 1
+    std::vector<long> m_vecColumn;  ///< of m_strValue, from 1
 };

@@ -1,25 +1,27 @@
 #include "KZCEkaValidOnward.h"
 
+#include "CText.h"
 #include "DateLiteral.h"
-#include "Fault.h"
 #include "KZCMacOSNative.h"
 #include "RangeVerdict.h"
 
 void KZCEkaValidOnward::SetParam(const char* szValue)
 {
+    m_strValue = CText::OrEmpty(szValue);
     m_strBound = DateLiteral::OfEightCharacters(szValue);
 }
 
 KZCEkaMessage_t KZCEkaValidOnward::_validate(const char* szValue)
 {
     constexpr const char* FUNCTION = "KZCEkaValidOnward::_validate";
-    const RangeVerdict verdict(
-        KZCMacOSNative::rangeDate(szValue, m_strBound.c_str(), nullptr, false));
+    const RangeVerdict verdict(Guarded(FUNCTION, [&] {
+        return KZCMacOSNative::rangeDate(szValue, m_strBound.c_str(), nullptr, false);
+    }));
     if (verdict.Code() == -2)
-        return Refuse(HE70012E, FUNCTION);
+        return HE70012E;
     if (verdict.Code() == -1 || verdict.IsBeforeMin())
-        return Refuse(HE70010E, FUNCTION);
+        return HE70010E;
     if (!verdict.IsPlaced())
-        RaiseFault(FUNCTION, nullptr);
+        RaiseParameterFault(FUNCTION);
     return MSG_NONE;
 }

@@ -1,7 +1,6 @@
 #include "KZCEkaValidRange.h"
 
 #include "CText.h"
-#include "Fault.h"
 
 void KZCEkaValidRange::SetParam(const char* szMin, const char* szMax)
 {
@@ -14,6 +13,6 @@ KZCEkaMessage_t KZCEkaValidRange::_validate(const char* szValue)
     if (!NumberRange::IsNumber(szValue))
         return Refuse(HE70009E, FUNCTION);
     if (!m_range.HasNumbers() || !m_range.IsOrdered())
-        RaiseFault(FUNCTION, nullptr);
+        RaiseParameterFault(FUNCTION);
     return m_range.Contains(CText::ReadLong(szValue)) ? MSG_NONE : Refuse(HE70009E, FUNCTION);
 }

@@ -2,10 +2,11 @@
 
 #include "CText.h"
 #include "Fault.h"
+#include "Wrapping.h"
 
 void KZCEkaValidRangebasedate::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {
-    m_bReference = *CText::OrEmpty(szValue) != '\0';
+    m_strValue = CText::OrEmpty(szValue);
     m_reference = DateLiteral::ReadReference(szValue);
     m_strMin = CText::OrEmpty(szMin);
     m_strMax = CText::OrEmpty(szMax);
@@ -19,14 +20,16 @@ int KZCEkaValidRangebasedate::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, 
     const long lDateColumn = CheckedColumn(lColumn);
     if (HasBadReference()) {
         // Recorded whatever the item's settings are: wanted.
-        Record(HE70025E, lRow + 1, lDateColumn + 1, lDateColumn + 1 + DATE_LAST_CELL, "", true);
+        const ErrorColumns columns = ColumnsFrom(lDateColumn, DATE_LAST_CELL);
+        Record(HE70025E, WrappingSum(lRow, 1), columns.lFirst, columns.lLast, "", true);
         return STATUS_NG;
     }
     const auto dates = Resolve(pCsv, lRow, lDateColumn);
     const KZCEkaMessage_t eRefusal = dates ? _validate(*dates) : MSG_NONE;
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    const long lRecord = m_strErrRow.empty() ? lRow + 1 : CText::ReadLong(m_strErrRow.c_str());
+    const long lRecord =
+        m_strErrRow.empty() ? WrappingSum(lRow, 1) : CText::ReadLong(m_strErrRow.c_str());
     return RecordDate(eRefusal, lRecord, ReportedColumns(lDateColumn, DATE_LAST_CELL),
                       dates->strDate);
 }
@@ -42,13 +45,13 @@ int KZCEkaValidRangebasedate::ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow
 
 bool KZCEkaValidRangebasedate::HasBadReference() const
 {
-    return m_bReference && ((m_strMin.empty() && m_strMax.empty()) || !m_reference);
+    return !m_strValue.empty() && ((m_strMin.empty() && m_strMax.empty()) || !m_reference);
 }
 
 std::optional<KZCEkaValidRangebasedate::Dates> KZCEkaValidRangebasedate::Resolve(
     const KZCEkaCsvFile* pCsv, long lRow, long lDateColumn)
 {
-    if (!m_bReference)
+    if (m_strValue.empty())
         return Dates{GetDateString(pCsv, lRow, lDateColumn), ReadColumn(pCsv, lRow, m_strMin),
                      ReadColumn(pCsv, lRow, m_strMax)};
     const auto strDate = ReadReferred(pCsv, *m_reference);
@@ -68,9 +71,10 @@ std::string KZCEkaValidRangebasedate::ReadColumn(const KZCEkaCsvFile* pCsv,
 KZCEkaMessage_t KZCEkaValidRangebasedate::_validate(const Dates& dates)
 {
     constexpr const char* FUNCTION = "KZCEkaValidRangebasedate::_validate";
-    const long lPlace =
-        _rangeDate(dates.strDate.c_str(), dates.strMin.c_str(), dates.strMax.c_str(), false);
+    const long lPlace = Guarded(FUNCTION, [&] {
+        return _rangeDate(dates.strDate.c_str(), dates.strMin.c_str(), dates.strMax.c_str(), false);
+    });
     if (lPlace >= 0)
         return MSG_NONE;
-    return Refuse(lPlace == -1 ? HE70025E : HE70012E, FUNCTION);
+    return lPlace == -1 ? HE70025E : HE70012E;
 }

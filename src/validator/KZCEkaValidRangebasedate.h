@@ -37,8 +37,8 @@ private:
     using KZCEkaValidDate::_validate;
     KZCEkaMessage_t _validate(const Dates& dates);
 
-    bool m_bReference = false;  ///< the first parameter isn't empty
-    std::optional<DateLiteral::CellReference> m_reference;
+    std::string m_strValue;
     std::string m_strMin;
     std::string m_strMax;
+    std::optional<DateLiteral::CellReference> m_reference;  ///< of m_strValue
 };

@@ -4,15 +4,19 @@
 #include "Fault.h"
 #include "KZCMacOSNative.h"
 #include "RangeVerdict.h"
+#include "Wrapping.h"
 
 KZCEkaValidRangebasedate_2::Bound::Bound(const char* szParameter)
-    : reference(DateLiteral::ReadReference(szParameter)), lColumn(CText::ReadLong(szParameter))
+    : strParameter(CText::OrEmpty(szParameter)),
+      reference(DateLiteral::ReadReference(szParameter)),
+      lColumn(CText::ReadLong(szParameter))
 {
 }
 
 void KZCEkaValidRangebasedate_2::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {
-    m_bInclude = std::string_view(CText::OrEmpty(szValue)) == "include";
+    m_strValue = CText::OrEmpty(szValue);
+    m_bInclude = m_strValue == "include";
     m_min = Bound(szMin);
     m_max = Bound(szMax);
 }
@@ -33,7 +37,8 @@ int KZCEkaValidRangebasedate_2::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow
     const KZCEkaMessage_t eRefusal = _validate(strDate, *strMin, *strMax);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    return RecordDate(eRefusal, lRow + 1, ReportedColumns(lDateColumn, DATE_LAST_CELL), strDate);
+    return RecordDate(eRefusal, WrappingSum(lRow, 1), ReportedColumns(lDateColumn, DATE_LAST_CELL),
+                      strDate);
 }
 
 int KZCEkaValidRangebasedate_2::ValidateOuter(const KZCEkaCsvFile* pCsv,
@@ -67,8 +72,9 @@ KZCEkaMessage_t KZCEkaValidRangebasedate_2::_validate(const std::string& strDate
                                                       const std::string& strMax) const
 {
     constexpr const char* FUNCTION = "KZCEkaValidRangebasedate_2::_validate";
-    const RangeVerdict verdict(
-        KZCMacOSNative::rangeDate(strDate.c_str(), strMin.c_str(), strMax.c_str(), false));
+    const RangeVerdict verdict(Guarded(FUNCTION, [&] {
+        return KZCMacOSNative::rangeDate(strDate.c_str(), strMin.c_str(), strMax.c_str(), false);
+    }));
     if (verdict.HasNoBound())
         return Refuse(HE99999E, FUNCTION, "チェック範囲が指定されていません。");
     const bool bOnOpenEnd = !m_bInclude && (verdict.IsAtMin() || verdict.IsAtMax());

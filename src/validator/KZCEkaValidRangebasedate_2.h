@@ -22,6 +22,7 @@ private:
     /// Where a bound comes from.
     struct Bound
     {
+        std::string strParameter;
         std::optional<DateLiteral::CellReference> reference;
         long lColumn = 0;  ///< from 1; below 1 for no bound
 
@@ -38,6 +39,7 @@ private:
                               const std::string& strMin,
                               const std::string& strMax) const;
 
+    std::string m_strValue;
     bool m_bInclude = false;
     Bound m_min;
     Bound m_max;

@@ -4,7 +4,6 @@
 
 #include "CText.h"
 #include "DateLiteral.h"
-#include "Fault.h"
 
 namespace {
 
@@ -20,34 +19,43 @@ std::string WithYear(const std::string& strBound, const std::string& strYear)
 
 void KZCEkaValidRangedate::SetParam(const char* szMin, const char* szMax)
 {
-    m_vecMin = CText::SplitTokens(CText::OrEmpty(szMin));
-    m_vecMax = CText::SplitTokens(CText::OrEmpty(szMax));
+    m_strMin = CText::OrEmpty(szMin);
+    m_strMax = CText::OrEmpty(szMax);
+    m_vecMin = CText::SplitTokens(m_strMin);
+    m_vecMax = CText::SplitTokens(m_strMax);
 }
 
 KZCEkaMessage_t KZCEkaValidRangedate::_validate(const char* szValue)
 {
     constexpr const char* FUNCTION = "KZCEkaValidRangedate::_validate";
-    const std::string strValue = CText::OrEmpty(szValue);
-    const std::size_t nSlash = strValue.find('/');
+    const std::size_t nPairs = std::min(m_vecMin.size(), m_vecMax.size());
     KZCEkaMessage_t eVerdict = HE70010E;
-    for (std::size_t nPair = 0; nPair < std::min(m_vecMin.size(), m_vecMax.size()); ++nPair) {
-        std::string strMin = m_vecMin[nPair];
-        std::string strMax = m_vecMax[nPair];
-        if (nSlash != std::string::npos && strMin.starts_with(OWN_YEAR) &&
-            strMax.starts_with(OWN_YEAR)) {
-            strMin = WithYear(strMin, strValue.substr(0, nSlash));
-            strMax = WithYear(strMax, strValue.substr(0, nSlash));
-        }
-        const long lPlace = _rangeDate(szValue, DateLiteral::WithSlashes(strMin).c_str(),
-                                       DateLiteral::WithSlashes(strMax).c_str(), true);
-        if (lPlace >= 0)
+    for (std::size_t nPair = 0; nPair < nPairs && eVerdict == HE70010E; ++nPair) {
+        const auto lPlace = Guarded(FUNCTION, [&] { return Place(szValue, nPair); });
+        if (!lPlace || *lPlace < -2)
+            RaiseParameterFault(FUNCTION);
+        if (*lPlace >= 0)
             return MSG_NONE;
-        if (lPlace == -2) {
-            eVerdict = HE70012E;
-            break;
-        }
-        if (lPlace != -1)
-            RaiseFault(FUNCTION, nullptr);
+        if (*lPlace == -2)
+            eVerdict = Refuse(HE70012E, FUNCTION);
     }
     return Refuse(eVerdict, FUNCTION, "すべてのチェック範囲で範囲外です。");
+}
+
+std::optional<long> KZCEkaValidRangedate::Place(const char* szValue, std::size_t nPair)
+{
+    const std::string strValue = CText::OrEmpty(szValue);
+    const std::size_t nSlash = strValue.find('/');
+    std::string strMin = m_vecMin[nPair];
+    std::string strMax = m_vecMax[nPair];
+    if (nSlash != std::string::npos && strMin.starts_with(OWN_YEAR) &&
+        strMax.starts_with(OWN_YEAR)) {
+        strMin = WithYear(strMin, strValue.substr(0, nSlash));
+        strMax = WithYear(strMax, strValue.substr(0, nSlash));
+    }
+    const auto strFirst = DateLiteral::WithSlashes(strMin);
+    const auto strLast = DateLiteral::WithSlashes(strMax);
+    if (!strFirst || !strLast)
+        return std::nullopt;
+    return _rangeDate(szValue, strFirst->c_str(), strLast->c_str(), true);
 }

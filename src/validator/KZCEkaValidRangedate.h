@@ -14,6 +14,12 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
-    std::vector<std::string> m_vecMin;
+    /// Where the date lies in a range of the lists, as _rangeDate tells it; nothing if a bound of
+    /// it is too short for a date.
+    std::optional<long> Place(const char* szValue, std::size_t nPair);
+
+    std::string m_strMin;
+    std::string m_strMax;
+    std::vector<std::string> m_vecMin;  ///< of m_strMin
     std::vector<std::string> m_vecMax;
 };

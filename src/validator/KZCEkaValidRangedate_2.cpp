@@ -2,14 +2,17 @@
 
 #include "CText.h"
 #include "Fault.h"
+#include "Wrapping.h"
 
 void KZCEkaValidRangedate_2::SetParam(const char* szMin, const char* szMax)
 {
     constexpr std::size_t BUFFER_SIZE = 11;
     // Cut at 4, 2 and 2 characters, however many there are: a bad date shows when the check runs.
-    std::string strMin = CText::OrEmpty(szMin);
+    m_strMin = CText::OrEmpty(szMin);
+    m_strMax = CText::OrEmpty(szMax);
+    std::string strMin = m_strMin;
     strMin.resize(8, ' ');
-    m_strMin = CText::CutToBuffer(
+    m_strFirst = CText::CutToBuffer(
         strMin.substr(0, 4) + "/" + strMin.substr(4, 2) + "/" + strMin.substr(6, 2), BUFFER_SIZE);
     m_lYearColumn = CText::ReadLong(szMax);
 }
@@ -27,8 +30,8 @@ int KZCEkaValidRangedate_2::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, lo
         _validate(GetDateString(pCsv, lRow, CheckedColumn(lColumn)), strYear);
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
-    Record(ReportedCode(eRefusal), lRow + 1, m_lYearColumn, m_lYearColumn + YEAR_LAST_CELL,
-           strYear.c_str(), true);
+    Record(ReportedCode(eRefusal), WrappingSum(lRow, 1), m_lYearColumn,
+           WrappingSum(m_lYearColumn, YEAR_LAST_CELL), strYear.c_str(), true);
     return STATUS_NG;
 }
 
@@ -37,7 +40,7 @@ int KZCEkaValidRangedate_2::ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow, 
     RequireCsv(pCsv, "KZCEkaValidRangedate_2::ValidateOuter");
     // As a condition it doesn't test its parameter: wanted.
     return _validate(GetDateString(pCsv, lRow, m_lColumn),
-                     GetYearString(pCsv, lRow, m_lYearColumn - 1)) == MSG_NONE
+                     GetYearString(pCsv, lRow, WrappingSum(m_lYearColumn, -1))) == MSG_NONE
                ? STATUS_OK
                : OuterRefused();
 }
@@ -46,10 +49,11 @@ KZCEkaMessage_t KZCEkaValidRangedate_2::_validate(const std::string& strDate,
                                                   const std::string& strYear)
 {
     constexpr const char* FUNCTION = "KZCEkaValidRangedate_2::_validate";
-    const long lPlace =
-        _rangeDate(strDate.c_str(), m_strMin.c_str(), (strYear + "/09/30").c_str(), true);
+    const long lPlace = Guarded(FUNCTION, [&] {
+        return _rangeDate(strDate.c_str(), m_strFirst.c_str(), (strYear + "/09/30").c_str(), true);
+    });
     if (lPlace == -3)
-        RaiseFault(FUNCTION, nullptr);
+        RaiseParameterFault(FUNCTION);
     // An impossible date or year is left to other checks.
     return lPlace == -1 ? Refuse(HE70025E, FUNCTION) : MSG_NONE;
 }

@@ -19,6 +19,8 @@ private:
     using KZCEkaValidDate::_validate;
     KZCEkaMessage_t _validate(const std::string& strDate, const std::string& strYear);
 
-    std::string m_strMin;    ///< with slashes
-    long m_lYearColumn = 0;  ///< from 1
+    std::string m_strMin;
+    std::string m_strMax;
+    std::string m_strFirst;  ///< the date of m_strMin, with slashes
+    long m_lYearColumn = 0;  ///< of m_strMax, from 1
 };

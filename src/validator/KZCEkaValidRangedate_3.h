@@ -17,7 +17,12 @@ public:
 private:
     using KZCEkaValidDate::_validate;
     KZCEkaMessage_t _validate(const std::string& strDate, const std::string& strYear);
-    std::string ReadYear(const KZCEkaCsvFile* pCsv, long lRow);
+    /// \param szFunction  The operation that asks, for the log.
+    std::string ReadYear(const KZCEkaCsvFile* pCsv, long lRow, const char* szFunction);
+    /// Where the date lies in the business year, as _rangeDate tells it; nothing if the year is
+    /// none.
+    std::optional<long> Place(const std::string& strDate, const std::string& strYear);
 
+    std::string m_strValue;
     long m_lYearColumn = 0;  ///< from 1
 };

@@ -2,24 +2,36 @@
 
 #include "CText.h"
 #include "DateLiteral.h"
-#include "Fault.h"
 
 void KZCEkaValidRangedate_4::SetParam(const char* szMin, const char* szMax)
 {
-    m_vecMin = CText::SplitTokens(CText::OrEmpty(szMin));
-    m_vecMax = CText::SplitTokens(CText::OrEmpty(szMax));
+    m_strMin = CText::OrEmpty(szMin);
+    m_strMax = CText::OrEmpty(szMax);
+    m_vecMin = CText::SplitTokens(m_strMin);
+    m_vecMax = CText::SplitTokens(m_strMax);
 }
 
 KZCEkaMessage_t KZCEkaValidRangedate_4::_validate(const char* szValue)
 {
     constexpr const char* FUNCTION = "KZCEkaValidRangedate_4::_validate";
-    if (*CText::OrEmpty(szValue) == '\0' || m_vecMin.empty() || m_vecMax.empty())
-        return Refuse(HE70010E, FUNCTION);
-    const long lPlace = _rangeDate(szValue, DateLiteral::WithSlashes(m_vecMin.front()).c_str(),
-                                   DateLiteral::WithSlashes(m_vecMax.front()).c_str(), true);
-    if (lPlace >= 0)
+    if (*CText::OrEmpty(szValue) == '\0')
+        return HE70010E;
+    const auto lPlace = Guarded(FUNCTION, [&] { return Place(szValue); });
+    if (!lPlace || *lPlace < -2)
+        RaiseParameterFault(FUNCTION);
+    if (*lPlace >= 0)
         return MSG_NONE;
-    if (lPlace < -2)
-        RaiseFault(FUNCTION, nullptr);
-    return Refuse(lPlace == -1 ? HE70010E : HE70012E, FUNCTION);
+    const KZCEkaMessage_t eVerdict = *lPlace == -2 ? Refuse(HE70012E, FUNCTION) : HE70010E;
+    return Refuse(eVerdict, FUNCTION, "すべてのチェック範囲で範囲外です。");
+}
+
+std::optional<long> KZCEkaValidRangedate_4::Place(const char* szValue)
+{
+    if (m_vecMin.empty() || m_vecMax.empty())
+        return -1;
+    const auto strFirst = DateLiteral::WithSlashes(m_vecMin.front());
+    const auto strLast = DateLiteral::WithSlashes(m_vecMax.front());
+    if (!strFirst || !strLast)
+        return std::nullopt;
+    return _rangeDate(szValue, strFirst->c_str(), strLast->c_str(), true);
 }

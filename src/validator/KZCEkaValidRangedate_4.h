@@ -13,6 +13,12 @@ public:
 private:
     KZCEkaMessage_t _validate(const char* szValue) override;
 
-    std::vector<std::string> m_vecMin;
+    /// Where the date lies in the first range, as _rangeDate tells it: out of range if there is
+    /// none, nothing if a bound is too short for a date.
+    std::optional<long> Place(const char* szValue);
+
+    std::string m_strMin;
+    std::string m_strMax;
+    std::vector<std::string> m_vecMin;  ///< of m_strMin
     std::vector<std::string> m_vecMax;
 };

@@ -4,7 +4,8 @@
 
 KZCEkaMessage_t KZCEkaValidTaxoffice::_validate(const char* szValue)
 {
-    return KZCEkaTaxOffices::instance()->IsExistCode(szValue)
+    return Guarded("KZCEkaValidTaxoffice::_validate",
+                   [szValue] { return KZCEkaTaxOffices::instance()->IsExistCode(szValue); })
                ? MSG_NONE
-               : Refuse(HE70011E, "KZCEkaValidTaxoffice::_validate");
+               : HE70011E;
 }

@@ -5,6 +5,7 @@
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCMacOSNative.h"
+#include "Wrapping.h"
 
 int KZCEkaValidTaxofficenm::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lColumn)
 {
@@ -16,12 +17,12 @@ int KZCEkaValidTaxofficenm::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, lo
     if (KZCEkaCommon::GetCsvCheckFlag())
         strName = KZCMacOSNative::convertUTF8fromShiftJIS(strName.c_str());
     const KZCEkaMessage_t eRefusal =
-        _validate(pCsv->GetItem(lRow, lNameColumn + 1), strName.c_str());
+        _validate(pCsv->GetItem(lRow, WrappingSum(lNameColumn, 1)), strName.c_str());
     if (eRefusal == MSG_NONE)
         return STATUS_OK;
     if (m_bErrOutput)
-        Record(ReportedCode(eRefusal), lRow + 1, lNameColumn + 1, lNameColumn + 2, strName.c_str(),
-               true);
+        Record(ReportedCode(eRefusal), WrappingSum(lRow, 1), WrappingSum(lNameColumn, 1),
+               WrappingSum(lNameColumn, 2), strName.c_str(), true);
     return STATUS_NG;
 }
 
@@ -29,14 +30,17 @@ int KZCEkaValidTaxofficenm::ValidateOuter(const KZCEkaCsvFile* pCsv, long lRow, 
 {
     RequireCsv(pCsv, "KZCEkaValidTaxofficenm::ValidateOuter");
     // As a condition the name stays in the cell's own encoding: wanted.
-    return _validate(pCsv->GetItem(lRow, m_lColumn + 1), pCsv->GetItem(lRow, m_lColumn)) == MSG_NONE
+    return _validate(pCsv->GetItem(lRow, WrappingSum(m_lColumn, 1)),
+                     pCsv->GetItem(lRow, m_lColumn)) == MSG_NONE
                ? STATUS_OK
                : OuterRefused();
 }
 
 KZCEkaMessage_t KZCEkaValidTaxofficenm::_validate(const char* szCode, const char* szName)
 {
-    return KZCEkaTaxOffices::instance()->IsValidName(szCode, szName)
+    constexpr const char* FUNCTION = "KZCEkaValidTaxofficenm::_validate";
+    return Guarded(FUNCTION,
+                   [&] { return KZCEkaTaxOffices::instance()->IsValidName(szCode, szName); })
                ? MSG_NONE
-               : Refuse(HE70002E, "KZCEkaValidTaxofficenm::_validate");
+               : Refuse(HE70002E, FUNCTION);
 }

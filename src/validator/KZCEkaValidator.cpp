@@ -1,6 +1,9 @@
 #include "KZCEkaValidator.h"
 
+#include <utility>
+
 #include "CText.h"
+#include "ChildWalk.h"
 #include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaXDOM.h"
@@ -9,17 +12,7 @@ namespace {
 
 constexpr const char* NO_ITEM = "チェックアイテムが作成できません。";
 constexpr const char* NO_OUTER_ITEM = "外部条件アイテムが作成できません。";
-constexpr const char* CURSOR_LOST = "定義体のDOM操作に失敗しました。";
 constexpr const char* SET_UP_FAILED = "validateの初期処理中にエラーが発生しました。";
-
-/// Back to the parent of the children just read. \return nStatus, or STATUS_NG if that fails.
-int ReturnToParent(KZCEkaXDOM& dom, const char* szFunction, int nStatus)
-{
-    if (dom.MoveParent() == STATUS_OK)
-        return nStatus;
-    KZCDebugDump::Log(szFunction, CURSOR_LOST);
-    return STATUS_NG;
-}
 
 /// The item of the cursor's element, or null.
 std::unique_ptr<KZCEkaValidItem> MakeItem(const KZCEkaXDOM& dom,
@@ -53,70 +46,52 @@ int KZCEkaValidator::Initialize(long lColumn, KZCEkaXDOM* pDom)
     }
     try {
         Clear();
-        if (pDom->MoveFirstChild() != STATUS_OK)
-            return STATUS_OK;
-        return ReturnToParent(*pDom, FUNCTION, ReadItems(lColumn, *pDom));
+        return WalkChildren(*pDom, FUNCTION,
+                            [&](KZCEkaXDOM& dom) { return AddItem(lColumn, dom); });
     } catch (...) {
         KZCDebugDump::Log(FUNCTION, SET_UP_FAILED);
         return STATUS_NG;
     }
 }
 
-/// Reads the cursor's element and its siblings.
-int KZCEkaValidator::ReadItems(long lColumn, KZCEkaXDOM& dom)
+/// Adds the item of the cursor's element. An element that is no check is passed over.
+int KZCEkaValidator::AddItem(long lColumn, KZCEkaXDOM& dom)
 {
-    do {
-        if (dom.GetNodeName() != "valid")
-            continue;
-        int nStatus = STATUS_OK;
-        auto pItem = ReadItem(lColumn, dom, nStatus);
-        if (nStatus != STATUS_OK)
-            return nStatus;
-        m_vecItem.push_back(std::move(pItem));
-    } while (dom.MoveNextSibling() == STATUS_OK);
-    return STATUS_OK;
-}
-
-std::unique_ptr<KZCEkaValidItem> KZCEkaValidator::ReadItem(long lColumn,
-                                                           KZCEkaXDOM& dom,
-                                                           int& nStatus)
-{
+    if (dom.GetNodeName() != "valid")
+        return STATUS_OK;
     const long lOwnColumn = ReadColumn(dom);
     auto pItem = MakeItem(dom, lOwnColumn < 1 ? lColumn : lOwnColumn - 1,
                           FindEkaMessage(dom.GetAttribute("message")));
     if (!pItem) {
         KZCDebugDump::Log("KZCEkaValidator::Initialize", NO_ITEM);
-        nStatus = STATUS_NG;
-        return nullptr;
+        return STATUS_NG;
     }
     if (const std::string strErrColumn = dom.GetAttribute("errcolumn"); !strErrColumn.empty())
         pItem->SetErrColumn(strErrColumn);
     if (const std::string strErrRow = dom.GetAttribute("errrow"); !strErrRow.empty())
         pItem->SetErrRow(strErrRow);
-    nStatus = SetUpOuter(&dom, pItem.get());
-    return pItem;
+    const int nStatus = SetUpOuter(&dom, pItem.get());
+    if (nStatus == STATUS_OK)
+        m_vecItem.push_back(std::move(pItem));
+    return nStatus;
 }
 
 int KZCEkaValidator::SetUpOuter(KZCEkaXDOM* pDom, KZCEkaValidItem* pItem)
 {
     constexpr const char* FUNCTION = "KZCEkaValidator::SetUpOuter";
-    if (pDom->MoveFirstChild() != STATUS_OK)
-        return STATUS_OK;
-    int nStatus = STATUS_OK;
-    do {
+    return WalkChildren(*pDom, FUNCTION, [pItem](KZCEkaXDOM& dom) {
         // A condition names its column; it doesn't inherit the node's.
-        const long lColumn = pDom->GetNodeName() == "outer" ? ReadColumn(*pDom) : 0;
+        const long lColumn = dom.GetNodeName() == "outer" ? ReadColumn(dom) : 0;
         if (lColumn <= 0)
-            continue;
-        auto pOuter = MakeItem(*pDom, lColumn - 1, MSG_NONE);
+            return STATUS_OK;
+        auto pOuter = MakeItem(dom, lColumn - 1, MSG_NONE);
         if (!pOuter) {
             KZCDebugDump::Log(FUNCTION, NO_OUTER_ITEM);
-            nStatus = STATUS_NG;
-            break;
+            return STATUS_NG;
         }
         pItem->AddOuterItem(pOuter.release());
-    } while (pDom->MoveNextSibling() == STATUS_OK);
-    return ReturnToParent(*pDom, FUNCTION, nStatus);
+        return STATUS_OK;
+    });
 }
 
 int KZCEkaValidator::Initialize(KZCArgValid_t eType, bool /*bCheck*/)
@@ -126,17 +101,17 @@ int KZCEkaValidator::Initialize(KZCArgValid_t eType, bool /*bCheck*/)
         Clear();
         if (!IsTableType(eType))
             RaiseFault(FUNCTION, "存在しない引数チェックタイプが指定されました。");
-        MakeItems(eType);
+        MakeItems(GetArgValidRows(eType));
         return STATUS_OK;
     } catch (...) {
         RaiseFault(FUNCTION, SET_UP_FAILED);
     }
 }
 
-void KZCEkaValidator::MakeItems(KZCArgValid_t eType)
+void KZCEkaValidator::MakeItems(std::span<const ArgValidRow> rows)
 {
     constexpr const char* FUNCTION = "KZCEkaValidator::Initialize";
-    for (const ArgValidRow& row : GetArgValidRows(eType)) {
+    for (const ArgValidRow& row : rows) {
         auto pItem = KZCEkaValidItem::CreateItem(row.lColumn, row.szId, row.szValue, row.szMin,
                                                  row.szMax, row.eMessage);
         if (!pItem)

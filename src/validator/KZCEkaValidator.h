@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "KZCArgValid.h"
@@ -32,10 +33,12 @@ public:
     int Validate(const char* szValue, long lRow, long lColumn);
     void Clear() { m_vecItem.clear(); }
 
+protected:
+    /// Adds the items of the rows of an argument type. Throws FAULT if one can't be made.
+    void MakeItems(std::span<const ArgValidRow> rows);
+
 private:
-    int ReadItems(long lColumn, KZCEkaXDOM& dom);
-    std::unique_ptr<KZCEkaValidItem> ReadItem(long lColumn, KZCEkaXDOM& dom, int& nStatus);
-    void MakeItems(KZCArgValid_t eType);
+    int AddItem(long lColumn, KZCEkaXDOM& dom);
 
     std::vector<std::unique_ptr<KZCEkaValidItem>> m_vecItem;
 };

@@ -4,19 +4,17 @@
 
 void LengthLimit::Set(const char* szValue, const char* szMax)
 {
-    m_lExact.reset();
-    m_lMax.reset();
-    if (*CText::OrEmpty(szValue) != '\0')
-        m_lExact = CText::ReadLong(szValue);
-    if (*CText::OrEmpty(szMax) != '\0')
-        m_lMax = CText::ReadLong(szMax);
+    m_strValue = CText::OrEmpty(szValue);
+    m_strMax = CText::OrEmpty(szMax);
+    m_lExact = CText::ReadLong(szValue);
+    m_lMax = CText::ReadLong(szMax);
 }
 
 std::optional<bool> LengthLimit::Allows(long lLength) const
 {
-    if (m_lExact)
-        return lLength == *m_lExact;
-    if (m_lMax)
-        return lLength <= *m_lMax;
+    if (!m_strValue.empty())
+        return lLength == m_lExact;
+    if (!m_strMax.empty())
+        return lLength <= m_lMax;
     return std::nullopt;
 }

@@ -13,6 +13,8 @@ public:
     std::optional<bool> Allows(long lLength) const;
 
 private:
-    std::optional<long> m_lExact;
-    std::optional<long> m_lMax;
+    std::string m_strValue;  ///< as given
+    std::string m_strMax;
+    long m_lExact = 0;
+    long m_lMax = 0;
 };

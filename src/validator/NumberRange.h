@@ -1,6 +1,8 @@
 // The limits of the range checks.
 #pragma once
 
+#include <string>
+
 /// From min to max, both inclusive. A limit that is left out is 0, not infinity.
 class NumberRange
 {
@@ -17,6 +19,8 @@ public:
     static bool IsNumber(const char* szText);
 
 private:
+    std::string m_strMin;  ///< as given
+    std::string m_strMax;
     long m_lMin = 0;
     long m_lMax = 0;
     bool m_bNumbers = true;

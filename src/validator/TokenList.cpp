@@ -8,8 +8,8 @@
 
 void TokenList::Set(const char* szParameter)
 {
-    m_bGiven = *CText::OrEmpty(szParameter) != '\0';
-    m_vecToken = CText::SplitTokens(CText::OrEmpty(szParameter));
+    m_strText = CText::OrEmpty(szParameter);
+    m_vecToken = CText::SplitTokens(m_strText);
 }
 
 bool TokenList::Contains(std::string_view strText) const

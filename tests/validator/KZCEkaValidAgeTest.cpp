@@ -84,7 +84,8 @@ const RecordCase CASES[] = {
      Aged(JANUARY_1, "0"),
      {"001", "", "4", "31", "5", "1", "5", "2"},
      PASSES},
-    {"YearKnowsNoMonthRule",
+    // Read by its base, though the old era had ended before the reference day.
+    {"ReferenceYearBehindTheEndOfItsEra",
      Aged("3 7 0 12 31", "20"),
      {"001", "", "4", "12", "12", "31", "4", "32"},
      PASSES},
@@ -228,6 +229,16 @@ TEST_F(ValidAgeLogTest, LogsADateThatIsNone)
     pItem->SetErrOutput(false);
     EXPECT_EQ(MessagesOf([&] { EXPECT_EQ(OnRecord(*pItem, m_csv), REFUSES); }),
               "日付の変換に失敗しました。:szValue=平成30/2/30\n日付の変換に失敗しました。\n");
+}
+
+// A date of that month would be moved to the new era (新号02), where it stood in four cells.
+TEST_F(ValidAgeLogTest, TheReferenceYearKeepsTheEraThatItsCellStates)
+{
+    const TableCsv csv{{"001", "", "4", "10", "1", "1", "4", "32"}};
+    const auto pItem = MakeItem({"age", "3 7 0 2 30"}, CASE_COLUMN);
+    pItem->SetErrOutput(false);
+    EXPECT_EQ(MessagesOf([&] { EXPECT_EQ(OnRecord(*pItem, csv), REFUSES); }),
+              "日付の変換に失敗しました。:szValue=平成32/2/30\n日付の変換に失敗しました。\n");
 }
 
 TEST_F(ValidAgeLogTest, LogsAnAgeOutsideTheLimits)

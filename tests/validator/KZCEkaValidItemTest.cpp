@@ -10,6 +10,7 @@
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
 #include "support/TableCsv.h"
+#include "support/WholeLog.h"
 
 namespace {
 
@@ -199,11 +200,17 @@ TEST_F(ValidItemTest, WithErrorOutputOnAgainRecords)
 
 TEST_F(ValidItemTest, ErrorOutputOfAConditionDoesNotMatter)
 {
-    const auto pItem = MakeItem({"empty"}, 1);
-    auto pOuter = MakeItem({"exist"}, 2);
-    pOuter->SetErrOutput(false);
-    pItem->AddOuterItem(pOuter.release());
-    EXPECT_EQ(OnRecord(*pItem, m_csv, 0), "refuses 0001-00002-HE70005E");
+    for (const bool bErrOutput : {true, false}) {
+        const auto pItem = MakeItem({"empty"}, 1);
+        auto pHolds = MakeItem({"exist"}, 2);
+        pHolds->SetErrOutput(bErrOutput);
+        pItem->AddOuterItem(pHolds.release());
+        EXPECT_EQ(OnRecord(*pItem, m_csv, 0), "refuses 0001-00002-HE70005E") << bErrOutput;
+        auto pDoesNotHold = MakeItem({"empty"}, 2);
+        pDoesNotHold->SetErrOutput(bErrOutput);
+        pItem->AddOuterItem(pDoesNotHold.release());
+        EXPECT_EQ(OnRecord(*pItem, m_csv, 0), PASSES) << bErrOutput;
+    }
 }
 
 // --- conditions ---
@@ -212,7 +219,12 @@ TEST_F(ValidItemTest, AnEmptyCellUnderANumberIfFilledPasses)
 {
     const auto pItem = MakeItem({"number"}, 1);
     pItem->AddOuterItem(MakeItem({"exist"}, 1).release());
-    EXPECT_EQ(OnRecord(*pItem, m_csv, 2), PASSES);
+    {
+        // The rule lets an empty cell pass too: the log tells that it was the condition.
+        const DebugLog log;
+        EXPECT_EQ(OnRecord(*pItem, m_csv, 2), PASSES);
+        EXPECT_EQ(WholeLog(log), "外部条件チェックアウトです。\n");
+    }
     EXPECT_EQ(OnRecord(*pItem, m_csv, 0), "refuses 0001-00002-HE70004E");
 }
 
@@ -558,6 +570,19 @@ TEST_F(ValidItemTest, DateTextTakesColumnsInAnyOrder)
     const TableCsv csv{{"31", "12", "2019"}};
     KZCEkaValidItem item(0, MSG_NONE);
     EXPECT_EQ(item.GetYYYYMMDDStr(&csv, 2, 1, 0), "2019/12/31");
+}
+
+TEST_F(ValidItemTest, DateTextWithoutAFileRaisesAndIsLogged)
+{
+    KZCEkaValidItem item(0, MSG_NONE);
+    const DebugLog log;
+    EXPECT_EQ(Told([&] {
+                  item.GetYYYYMMDDStr(nullptr, 1, 2, 3);
+                  return STATUS_OK;
+              }),
+              RAISES);
+    EXPECT_EQ(WholeLog(log),
+              "[KZCEkaValidItem::GetYYYYMMDDStr]\n想定しないエラーが発生しました。\n");
 }
 
 TEST_F(ValidItemTest, DateTextOfColumnsBehindTheEndIsEmpty)

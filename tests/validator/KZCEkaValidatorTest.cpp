@@ -1,5 +1,7 @@
 #include "validator/KZCEkaValidator.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 
 #include "KZCEkaTaxOffices.h"
@@ -7,10 +9,16 @@
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/DebugLog.h"
+#include "support/Raised.h"
 #include "support/ResetState.h"
 #include "support/TableCsv.h"
+#include "support/WholeLog.h"
+#include "validator/ChildWalk.h"
 
 namespace {
+
+const std::string INITIALIZE = "[KZCEkaValidator::Initialize]\n";
+const std::string CREATE_ITEM = "[KZCEkaValidItem::CreateItem]\n";
 
 /// A validator filled from the children of an element, which stands under the cursor.
 class ValidatorTest : public ResetState
@@ -46,7 +54,7 @@ TEST_F(ValidatorTest, NullInsteadOfADocumentFails)
 {
     const DebugLog log;
     EXPECT_EQ(m_validator.Initialize(1, nullptr), STATUS_NG);
-    EXPECT_TRUE(log.HasLine("引数エラー。定義体のDOMが存在しません。")) << log.Text();
+    EXPECT_EQ(WholeLog(log), INITIALIZE + "引数エラー。定義体のDOMが存在しません。\n");
 }
 
 TEST_F(ValidatorTest, NullInsteadOfADocumentKeepsTheList)
@@ -149,7 +157,12 @@ TEST_P(ValidatorColumnTest, IsTheAttributesOrTheNodes)
     ASSERT_EQ(Fill(std::string("<valid id=\"exist\" ") + GetParam().szAttribute + "/>",
                    GetParam().lNodeColumn),
               STATUS_OK);
-    EXPECT_EQ(OnRow(TableCsv{{"", "", "", ""}}, 0, 2),
+    // The reported cell alone is empty, so that any other would pass.
+    KZCEkaCsvFile::Record record = {"x", "x", "x", "x"};
+    const int nReported = std::stoi(GetParam().szReported);
+    if (nReported > 0)
+        record[static_cast<std::size_t>(nReported) - 1].clear();
+    EXPECT_EQ(OnRow(TableCsv{record}, 0, 2),
               std::string("refuses 0001-") + GetParam().szReported + "-HE70001E");
 }
 
@@ -236,8 +249,8 @@ TEST_F(ValidatorTest, AnUnknownKeywordFailsAndLogs)
 {
     const DebugLog log;
     EXPECT_EQ(Fill("<valid id=\"unknown\"/>"), STATUS_NG);
-    EXPECT_TRUE(log.HasLine("不明なValidのidが指定されています。 unknown")) << log.Text();
-    EXPECT_TRUE(log.HasLine("チェックアイテムが作成できません。")) << log.Text();
+    EXPECT_EQ(WholeLog(log), CREATE_ITEM + "不明なValidのidが指定されています。 unknown\n" +
+                                 INITIALIZE + "チェックアイテムが作成できません。\n");
 }
 
 TEST_F(ValidatorTest, AKeywordInAnotherCaseFails)
@@ -348,7 +361,9 @@ TEST_F(ValidatorTest, AnUnknownConditionFailsAndLogs)
 {
     const DebugLog log;
     EXPECT_EQ(Fill("<valid id=\"exist\"><outer id=\"unknown\" column=\"1\"/></valid>"), STATUS_NG);
-    EXPECT_TRUE(log.HasLine("外部条件アイテムが作成できません。")) << log.Text();
+    EXPECT_EQ(WholeLog(log), CREATE_ITEM + "不明なValidのidが指定されています。 unknown\n" +
+                                 "[KZCEkaValidator::SetUpOuter]\n" +
+                                 "外部条件アイテムが作成できません。\n");
 }
 
 TEST_F(ValidatorTest, ACheckWithAnUnknownConditionIsNotKept)
@@ -386,6 +401,66 @@ TEST_F(ValidatorTest, SetUpOuterFailsForAnUnknownKeyword)
     EXPECT_EQ(m_validator.SetUpOuter(&m_dom, pItem.get()), STATUS_NG);
 }
 
+// --- the way over the children ---
+
+/// A cursor over so many children, which may be unable to come back.
+struct CountingCursor
+{
+    int nChildren;
+    long lParent;  ///< what MoveParent gives
+    int nVisited = 0;
+
+    long MoveFirstChild() const { return nChildren > 0 ? STATUS_OK : STATUS_NG; }
+    long MoveNextSibling() const { return nVisited < nChildren ? STATUS_OK : STATUS_NG; }
+    long MoveParent() const { return lParent; }
+
+    /// \param nLast  The child at which the visit gives STATUS_NG, from 1.
+    int Walk(int nLast = 0)
+    {
+        return WalkChildren(*this, "Walker::Walk", [nLast](CountingCursor& cursor) {
+            return ++cursor.nVisited == nLast ? STATUS_NG : STATUS_OK;
+        });
+    }
+};
+
+using ChildWalkTest = ResetState;
+
+TEST_F(ChildWalkTest, VisitsEveryChildAndLogsNothing)
+{
+    const DebugLog log;
+    CountingCursor cursor = {3, STATUS_OK};
+    EXPECT_EQ(cursor.Walk(), STATUS_OK);
+    EXPECT_EQ(cursor.nVisited, 3);
+    EXPECT_EQ(log.Text(), "");
+}
+
+TEST_F(ChildWalkTest, WithoutAChildDoesNotMove)
+{
+    const DebugLog log;
+    CountingCursor cursor = {0, STATUS_NG};
+    EXPECT_EQ(cursor.Walk(), STATUS_OK);
+    EXPECT_EQ(cursor.nVisited, 0);
+    EXPECT_EQ(log.Text(), "");
+}
+
+TEST_F(ChildWalkTest, EndsAtTheFirstVisitThatFails)
+{
+    const DebugLog log;
+    CountingCursor cursor = {3, STATUS_OK};
+    EXPECT_EQ(cursor.Walk(2), STATUS_NG);
+    EXPECT_EQ(cursor.nVisited, 2);
+    EXPECT_EQ(log.Text(), "");
+}
+
+TEST_F(ChildWalkTest, FailsAndLogsIfTheCursorCannotReturn)
+{
+    const DebugLog log;
+    CountingCursor cursor = {3, STATUS_NG};
+    EXPECT_EQ(cursor.Walk(), STATUS_NG);
+    EXPECT_EQ(cursor.nVisited, 3);
+    EXPECT_EQ(WholeLog(log), "[Walker::Walk]\n定義体のDOM操作に失敗しました。\n");
+}
+
 // --- run over records ---
 
 TEST_F(ValidatorTest, NullInsteadOfAFileRaises)
@@ -393,7 +468,8 @@ TEST_F(ValidatorTest, NullInsteadOfAFileRaises)
     const DebugLog log;
     ASSERT_EQ(Fill("<valid id=\"exist\"/>"), STATUS_OK);
     EXPECT_EQ(Told([&] { return m_validator.ValidateCsv(nullptr, 0, -1); }), RAISES);
-    EXPECT_TRUE(log.HasLine("引数エラー。CSV格納情報が不正です。")) << log.Text();
+    EXPECT_EQ(WholeLog(log),
+              "[KZCEkaValidator::ValidateCsv]\n引数エラー。CSV格納情報が不正です。\n");
 }
 
 TEST_F(ValidatorTest, NullInsteadOfAFileRaisesWithAnEmptyListToo)
@@ -537,8 +613,8 @@ TEST_P(ValidatorRefusedTypeTest, RaisesAndLogs)
     EXPECT_EQ(
         Told([&] { return m_validator.Initialize(static_cast<KZCArgValid_t>(GetParam()), true); }),
         RAISES);
-    EXPECT_TRUE(log.HasLine("存在しない引数チェックタイプが指定されました。")) << log.Text();
-    EXPECT_TRUE(log.HasLine("validateの初期処理中にエラーが発生しました。")) << log.Text();
+    EXPECT_EQ(WholeLog(log), INITIALIZE + "存在しない引数チェックタイプが指定されました。\n" +
+                                 INITIALIZE + "validateの初期処理中にエラーが発生しました。\n");
 }
 
 TEST_P(ValidatorRefusedTypeTest, EmptiesTheList)
@@ -564,6 +640,66 @@ TEST_P(ValidatorTypeTest, IsFilledWhateverTheFlag)
 
 INSTANTIATE_TEST_SUITE_P(BelowTheRefusedOne, ValidatorTypeTest, testing::Range(1, 6));
 INSTANTIATE_TEST_SUITE_P(AboveTheRefusedOne, ValidatorTypeTest, testing::Range(7, 27));
+
+/// A validator that is filled from rows of the test's own.
+class RowValidator final : public KZCEkaValidator
+{
+public:
+    using KZCEkaValidator::MakeItems;
+};
+
+using ValidatorRowTest = ResetState;
+
+TEST_F(ValidatorRowTest, AnUnknownKeywordRaises)
+{
+    constexpr ArgValidRow ROWS[] = {{.szId = "exist"}, {.szId = "unknown"}};
+    RowValidator validator;
+    const DebugLog log;
+    EXPECT_EQ(Raised([&] { validator.MakeItems(ROWS); }), std::optional(FAULT));
+    EXPECT_EQ(WholeLog(log), CREATE_ITEM + "不明なValidのidが指定されています。 unknown\n" +
+                                 INITIALIZE + "チェックアイテムが作成できません。\n");
+}
+
+TEST_F(ValidatorRowTest, AnUnknownConditionRaisesAndItsCheckIsNotKept)
+{
+    constexpr ArgValidRow ROWS[] = {{.szId = "exist", .szOuterId = "unknown"}};
+    RowValidator validator;
+    const DebugLog log;
+    EXPECT_EQ(Raised([&] { validator.MakeItems(ROWS); }), std::optional(FAULT));
+    EXPECT_EQ(WholeLog(log), CREATE_ITEM + "不明なValidのidが指定されています。 unknown\n" +
+                                 INITIALIZE + "外部条件アイテムが作成できません。\n");
+    EXPECT_EQ(validator.Validate("", ARGUMENT_RECORD, ARGUMENT_NUMBER), STATUS_OK);
+}
+
+TEST_F(ValidatorRowTest, AConditionTakesItsOwnParametersAndNoMessage)
+{
+    constexpr ArgValidRow ROWS[] = {{.szId = "length",
+                                     .szValue = "3",
+                                     .szOuterId = "range",
+                                     .szOuterValue = "unread",
+                                     .szOuterMin = "5",
+                                     .szOuterMax = "70",
+                                     .eMessage = HE70010E}};
+    RowValidator validator;
+    validator.MakeItems(ROWS);
+    const auto told = [&](const char* szValue) {
+        return Told([&] { return validator.Validate(szValue, ARGUMENT_RECORD, ARGUMENT_NUMBER); });
+    };
+    EXPECT_EQ(told("4"), PASSES);
+    EXPECT_EQ(told("5"), Verdict(HE70010E));
+    EXPECT_EQ(told("70"), Verdict(HE70010E));
+    EXPECT_EQ(told("71"), PASSES);
+}
+
+TEST_F(ValidatorTest, AConditionOfTheArgumentTableGatesItsCheck)
+{
+    ASSERT_EQ(m_validator.Initialize(ARG_KOJINBANGO, true), STATUS_OK);
+    const DebugLog log;
+    EXPECT_EQ(OnText(""), PASSES);
+    // Once for each of the two rows.
+    EXPECT_EQ(WholeLog(log), "外部条件チェックアウトです。\n外部条件チェックアウトです。\n");
+    EXPECT_EQ(OnText("12345678901"), "refuses 9999-00003-HE70008E");
+}
 
 TEST_F(ValidatorTest, TheFlagOfTheArgumentTableChangesNothing)
 {
