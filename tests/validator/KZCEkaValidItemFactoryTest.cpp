@@ -7,6 +7,7 @@
 #include "support/DebugLog.h"
 #include "support/ResetState.h"
 #include "support/TableCsv.h"
+#include "support/WholeLog.h"
 #include "validator/KZCEkaValidAge.h"
 #include "validator/KZCEkaValidAlnum.h"
 #include "validator/KZCEkaValidAlnumsbl.h"
@@ -451,7 +452,8 @@ TEST_P(NullTextTest, GivesNullAndALogLine)
     EXPECT_EQ(KZCEkaValidItem::CreateItem(0, testCase.szId, testCase.szValue, testCase.szMin,
                                           testCase.szMax, MSG_NONE),
               nullptr);
-    EXPECT_TRUE(log.HasLine("引数エラー。チェックパラメータ情報が不正です。")) << log.Text();
+    EXPECT_EQ(WholeLog(log),
+              "[KZCEkaValidItem::CreateItem]\n引数エラー。チェックパラメータ情報が不正です。\n");
 }
 
 constexpr NullCase NULL_TEXTS[] = {
@@ -469,7 +471,8 @@ TEST_F(FactoryTest, LogsAnUnknownKeyword)
 {
     const DebugLog log;
     EXPECT_EQ(Create("Exist"), nullptr);
-    EXPECT_TRUE(log.HasLine("不明なValidのidが指定されています。 Exist")) << log.Text();
+    EXPECT_EQ(WholeLog(log),
+              "[KZCEkaValidItem::CreateItem]\n不明なValidのidが指定されています。 Exist\n");
 }
 
 // The line is made in a buffer of 200 bytes, of which the fixed text takes 50.
@@ -477,8 +480,8 @@ TEST_F(FactoryTest, CutsALongUnknownKeywordInTheLog)
 {
     const DebugLog log;
     EXPECT_EQ(Create(std::string(300, 'x').c_str()), nullptr);
-    EXPECT_TRUE(log.HasLine("不明なValidのidが指定されています。 " + std::string(149, 'x')))
-        << log.Text();
+    EXPECT_EQ(WholeLog(log), "[KZCEkaValidItem::CreateItem]\n不明なValidのidが指定されています。 " +
+                                 std::string(149, 'x') + "\n");
 }
 
 }  // namespace
