@@ -2,13 +2,18 @@
 
 #include <CLI/CLI.hpp>
 
+#include <fcntl.h>
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
+#include <sstream>
 #include <thread>
 
 #include "FamilyOption.h"
@@ -17,6 +22,9 @@
 #include "ShiftJis.h"
 #include "UsageError.h"
 #include "batch/BatchRun.h"
+#include "batch/MemoryLimit.h"
+#include "files/Descriptor.h"
+#include "files/LineReader.h"
 
 namespace fs = std::filesystem;
 
@@ -27,6 +35,9 @@ constexpr const char* STANDARD_INPUT = "-";
 constexpr std::size_t WORKERS_MAX = 256;
 constexpr std::size_t LIMIT_DEFAULT = 100;
 constexpr std::size_t LIMIT_MAX = 1'000'000'000;
+constexpr std::size_t LIST_LONGEST = std::size_t{1024} * 1024 * 1024;  // bytes
+constexpr std::uint64_t MEMORY_DEFAULT = 512;
+constexpr std::uint64_t MEMORY_MAX = 1'000'000'000;
 constexpr double TIMEOUT_DEFAULT = 600;
 constexpr double TIMEOUT_MAX = 1'000'000;
 
@@ -46,8 +57,16 @@ constexpr Text CHECK_HELP = {"Check alone: no documents, no fields of the filer 
                              "チェックだけを行います（文書は作らず、納税者の項目も不要です）"};
 constexpr Text FRESH_HELP = {"Do every file anew, whatever an earlier run recorded",
                              "以前の結果を使わず、すべてのファイルを処理し直します"};
-constexpr Text JOBS_HELP = {"Worker processes; default: one for each processor",
-                            "ワーカープロセスの数（省略時はプロセッサーの数）"};
+constexpr Text JOBS_HELP = {
+    "Worker processes; default: one for each processor, as far as the free memory has room for "
+    "them",
+    "ワーカープロセスの数（省略時は、空きメモリの許す範囲でプロセッサーの数）"};
+constexpr Text MEMORY_HELP = {"Give a file up that needs more memory; default: 512, 0 for no limit",
+                              "1ワーカーのメモリの上限。MiB単位、省略時は512、0は無制限"};
+constexpr Text SHARE_HELP = {
+    "Let others read report.json and index.html as the umask says; default: their owner alone",
+    "report.json と index.html をumaskに従ってほかのユーザーにも読めるようにします"
+    "（省略時は所有者だけ）"};
 constexpr Text TIMEOUT_HELP = {"Give a file up after so long; default: 600, 0 for never",
                                "1ファイルの制限時間。秒単位、省略時は600、0は無制限"};
 constexpr Text LIMIT_HELP = {
@@ -90,6 +109,10 @@ constexpr Text FOLDER_OR_LIST = {"give either a folder or --files-from",
 constexpr Text NUL_WITHOUT_LIST = {"-0 is for --files-from", "-0 は --files-from と使います"};
 constexpr Text NO_FOLDER = {"{1}: this is no folder", "{1}：フォルダーではありません"};
 constexpr Text NO_LIST = {"--files-from {1}: {2}", "--files-from {1}：{2}"};
+constexpr Text NO_LIST_FILE = {
+    "it is no file with names. A named pipe isn't read; give its text by - on standard input",
+    "名前を書いたファイルではありません。名前付きパイプは読みません（- "
+    "で標準入力から渡してください）"};
 constexpr Text NO_TIME = {"--timeout: nan is no number of seconds",
                           "--timeout：nan は秒数ではありません"};
 constexpr Text OUTPUT_NOT_UTF8 = {"--output {1}: the path has to be UTF-8",
@@ -100,13 +123,16 @@ std::size_t Processors()
     return std::clamp<std::size_t>(std::thread::hardware_concurrency(), 1, WORKERS_MAX);
 }
 
-/// Throws UsageError for a list that ends in a fault, of which nobody knows what was to follow.
-FileList ReadList(std::istream& in, const std::string& strName, ListForm eForm)
+/// A file, a terminal, or a pipe that some process has made for this one, such as the shell's <(…).
+/// Whoever opens a named pipe may wait for its other end for ever.
+bool HoldsList(int nFile)
 {
-    FileList list = FilesOfList(in, eForm);
-    if (in.bad())
-        throw UsageError(Say(NO_LIST, {MakeSafe(strName), std::strerror(EIO)}));
-    return list;
+    struct stat info = {};
+    struct statfs system = {};
+    if (fstat(nFile, &info) != 0 || fstatfs(nFile, &system) != 0)
+        return false;
+    return S_ISREG(info.st_mode) || S_ISCHR(info.st_mode) ||
+           (S_ISFIFO(info.st_mode) && system.f_type == PIPEFS_MAGIC);
 }
 
 }  // namespace
@@ -134,10 +160,10 @@ void BatchCommand::AddFileOptions(CLI::App& command)
 
 void BatchCommand::AddRunOptions(CLI::App& command)
 {
-    m_settings.nWorkers = Processors();
     m_settings.dTimeout = TIMEOUT_DEFAULT;
+    m_settings.nMemory = MEMORY_DEFAULT;
     m_settings.style.limit = LIMIT_DEFAULT;
-    command.add_option("-j,--jobs", m_settings.nWorkers, Say(JOBS_HELP))
+    command.add_option("-j,--jobs", m_workers, Say(JOBS_HELP))
         ->type_name("N")
         ->check(CLI::Range(std::size_t{1}, WORKERS_MAX).description(""));
     command.add_flag("--check-only", m_settings.bCheckOnly, Say(CHECK_HELP));
@@ -145,9 +171,13 @@ void BatchCommand::AddRunOptions(CLI::App& command)
     command.add_option("--timeout", m_settings.dTimeout, Say(TIMEOUT_HELP))
         ->type_name("SECONDS")
         ->check(CLI::Range(0.0, TIMEOUT_MAX).description(""));
+    command.add_option("--memory", m_settings.nMemory, Say(MEMORY_HELP))
+        ->type_name("MIB")
+        ->check(CLI::Range(std::uint64_t{0}, MEMORY_MAX).description(""));
     command.add_option("--limit", m_settings.style.limit, Say(LIMIT_HELP))
         ->type_name("N")
         ->check(CLI::Range(std::size_t{0}, LIMIT_MAX).description(""));
+    command.add_flag("--share-report", m_settings.bShareReport, Say(SHARE_HELP));
     command.add_flag("-q,--quiet", m_settings.bQuiet, Say(QUIET_HELP));
     AddFamilyOption(command, m_settings.family);
 }
@@ -165,6 +195,8 @@ void BatchCommand::Finish()
         throw UsageError(Say(NO_FOLDER, {MakeSafe(m_strFolder)}));
     if (!Utf8::Decode(m_settings.strOutput))
         throw UsageError(Say(OUTPUT_NOT_UTF8, {MakeSafe(m_settings.strOutput)}));
+    m_settings.nWorkers =
+        m_workers.value_or(WorkersFor(Processors(), FreeMemory(), m_settings.nMemory * MEBIBYTE));
     m_settings.fields = m_filer.Read();
 }
 
@@ -178,13 +210,25 @@ FileList BatchCommand::List() const
     if (m_strList.empty())
         return FilesBelow(m_strFolder, m_settings.strOutput,
                           m_bTexts ? TextFiles::Taken : TextFiles::LeftAside);
-    const ListForm eForm = m_bNul ? ListForm::Nul : ListForm::Lines;
     if (m_strList == STANDARD_INPUT)
-        return ReadList(std::cin, m_strList, eForm);
-    std::ifstream in(m_strList, std::ios::binary);
-    if (!in)
+        return ReadList(STDIN_FILENO);
+    const Descriptor file(open(m_strList.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!file.IsOpen())
         throw UsageError(Say(NO_LIST, {MakeSafe(m_strList), std::strerror(errno)}));
-    return ReadList(in, m_strList, eForm);
+    if (!HoldsList(file.Get()))
+        throw UsageError(Say(NO_LIST, {MakeSafe(m_strList), Say(NO_LIST_FILE)}));
+    fcntl(file.Get(), F_SETFL, O_RDONLY);  // back from O_NONBLOCK
+    return ReadList(file.Get());
+}
+
+/// Throws UsageError for a list that ends in a fault, of which nobody knows what was to follow.
+FileList BatchCommand::ReadList(int nFile) const
+{
+    std::string strNames;
+    if (const int nError = ReadToEnd(nFile, LIST_LONGEST, strNames); nError != 0)
+        throw UsageError(Say(NO_LIST, {MakeSafe(m_strList), std::strerror(nError)}));
+    std::istringstream in(std::move(strNames));
+    return FilesOfList(in, m_bNul ? ListForm::Nul : ListForm::Lines);
 }
 
 }  // namespace host

@@ -1,6 +1,7 @@
 // `kzekamok batch`
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 
@@ -22,12 +23,14 @@ private:
     void AddFileOptions(CLI::App& command);
     void AddRunOptions(CLI::App& command);
     FileList List() const;
+    FileList ReadList(int nFile) const;
 
     FilerOptions m_filer;
     std::string m_strFolder;  ///< empty for none
     std::string m_strList;    ///< file with a list of files, "-" for standard input; empty for none
     bool m_bNul = false;
     bool m_bTexts = false;
+    std::optional<std::size_t> m_workers;
     BatchSettings m_settings;
 };
 

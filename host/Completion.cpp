@@ -24,12 +24,12 @@ constexpr Placeholder ARGUMENTS[] = {
 
 /// What the values of options stand for.
 constexpr Placeholder OPTION_VALUES[] = {
-    {"DATE", Completed::Nothing},   {"DIR", Completed::Folder},
-    {"FILE", Completed::AnyFile},   {"N", Completed::Nothing},
-    {"OUT", Completed::Folder},     {"OUT.mok", Completed::Document},
-    {"REPORT", Completed::AnyFile}, {"SECONDS", Completed::Nothing},
-    {"TEXT", Completed::Nothing},   {"TOML", Completed::AnyFile},
-    {"TYPEID", Completed::TypeId},
+    {"DATE", Completed::Nothing},     {"DIR", Completed::Folder},
+    {"FILE", Completed::AnyFile},     {"MIB", Completed::Nothing},
+    {"N", Completed::Nothing},        {"OUT", Completed::Folder},
+    {"OUT.mok", Completed::Document}, {"REPORT", Completed::AnyFile},
+    {"SECONDS", Completed::Nothing},  {"TEXT", Completed::Nothing},
+    {"TOML", Completed::AnyFile},     {"TYPEID", Completed::TypeId},
 };
 
 /// The words of which one must be given. The parser keeps them to itself, but tells them when it

@@ -9,6 +9,7 @@
 
 #include "FamilyOption.h"
 #include "Language.h"
+#include "Leftovers.h"
 #include "ReportRun.h"
 #include "SafeText.h"
 #include "ShiftJis.h"
@@ -115,6 +116,7 @@ void ConvertCommand::Finish()
 
 ExitStatus ConvertCommand::Run()
 {
+    RemoveLeftoversBeside(m_strOutput);
     const Definitions definitions;
     ReportRun run("convert", m_report);
     KZICsvConvMokEka library;

@@ -73,6 +73,7 @@ constexpr Text HALF_WRITTEN = {
     "Free some space, or name another output. Whatever stands there now is no document to file.",
     "空きを増やすか、ほかの出力先にしてください。"
     "いま出力先にあるものは提出できる文書ではありません。"};
+constexpr Text NOTHING_ARRIVED = {"nothing arrived there", "何も書き込まれませんでした"};
 constexpr Text NOT_BOTH_NUMBERS = {
     "Give --kojin-bango or --hojin-bango, not both.",
     "--kojin-bango と --hojin-bango は、どちらか一方だけを指定してください。"};
@@ -97,16 +98,6 @@ bool IsDeviceOrPipe(const std::string& strPath)
 {
     struct stat info = {};
     return stat(strPath.c_str(), &info) == 0 && !S_ISREG(info.st_mode) && !S_ISDIR(info.st_mode);
-}
-
-/// Where the library writes: for a dry run never to a device or a pipe.
-std::string DocumentPath(const std::string& strOutput, bool bDryRun)
-{
-    std::string strPath = AbsolutePath(strOutput);
-    std::error_code error;
-    return bDryRun && IsDeviceOrPipe(strPath)
-               ? (fs::temp_directory_path(error) / fs::path(strPath).filename()).string()
-               : strPath;
 }
 
 /// What a cell may hold that has a meaning of its own in XML, where it isn't escaped.
@@ -226,9 +217,28 @@ FileReport FileConversion::Run()
     return Convert(std::move(report));
 }
 
+/// Where the document goes: for a dry run never to a device or a pipe.
+std::string FileConversion::OutputPath() const
+{
+    std::string strPath = AbsolutePath(m_strOutput);
+    std::error_code error;
+    return m_options.bDryRun && IsDeviceOrPipe(strPath)
+               ? (fs::temp_directory_path(error) / fs::path(strPath).filename()).string()
+               : strPath;
+}
+
 FileReport FileConversion::Convert(FileReport report)
 {
-    PendingDocument document(DocumentPath(m_strOutput, m_options.bDryRun));
+    if (m_place) {
+        PendingDocument document(std::move(*m_place));
+        return Write(std::move(report), document);
+    }
+    PendingDocument document(OutputPath());
+    return Write(std::move(report), document);
+}
+
+FileReport FileConversion::Write(FileReport report, PendingDocument& document)
+{
     if (const std::string strReason = document.Open(); !strReason.empty()) {
         Settle(report, Outcome::NotWritten, ExitStatus::NotWritten,
                Say(NOT_OPENED, {MakeSafe(m_strOutput), strReason}), Say(NAME_ANOTHER));
@@ -251,9 +261,12 @@ FileReport FileConversion::Keep(FileReport report, PendingDocument& document)
         report.strNote = Say(DRY_RUN);
         return report;
     }
-    if (const std::string strReason = document.Keep(); !strReason.empty()) {
+    // A document is never empty: if nothing has arrived, it went somewhere else.
+    const std::string strReason =
+        document.Size() > 0 || document.IsDevice() ? document.Keep() : Say(NOTHING_ARRIVED);
+    if (!strReason.empty()) {
         report.document.reset();
-        return NotWritten(std::move(report), strReason);
+        return NotWritten(std::move(report), document, strReason);
     }
     report.eOutcome = Outcome::Converted;
     return report;
@@ -285,7 +298,7 @@ FileReport FileConversion::Judge(FileReport report,
     // empty table.
     else if ((Holds(vecEntry, HE70018E) || vecEntry.empty()) &&
              m_check.Operations().CanMakeDocument(m_check.Source().LibraryPath(), m_fields))
-        return NotWritten(std::move(report), WriteProblem(document.Path()));
+        return NotWritten(std::move(report), document, WriteProblem(document.Path()));
     else
         return Broken(std::move(report));
     return report;
@@ -298,12 +311,13 @@ FileReport FileConversion::Broken(FileReport report) const
     return broken;
 }
 
-FileReport FileConversion::NotWritten(FileReport report, const std::string& strReason) const
+FileReport FileConversion::NotWritten(FileReport report,
+                                      const PendingDocument& document,
+                                      const std::string& strReason) const
 {
-    const bool bReplaced = !IsDeviceOrPipe(AbsolutePath(m_strOutput));
     Settle(report, Outcome::NotWritten, ExitStatus::NotWritten,
            Say(NOT_WRITTEN, {MakeSafe(m_strOutput), strReason}),
-           Say(bReplaced ? NAME_ANOTHER : HALF_WRITTEN));
+           Say(document.IsDevice() ? HALF_WRITTEN : NAME_ANOTHER));
     return report;
 }
 

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "CheckFile.h"
 #include "FilerFields.h"
@@ -35,21 +36,29 @@ public:
                    FilerFields fields,
                    const ConversionOptions& options = {});
 
+    /// Where the document goes. Its path is then only what is told of it.
+    void WriteTo(FilePlace place) { m_place = std::move(place); }
+
     FileReport Run();
 
 private:
+    std::string OutputPath() const;
     FileReport Convert(FileReport report);
+    FileReport Write(FileReport report, PendingDocument& document);
     FileReport Keep(FileReport report, PendingDocument& document);
     FileReport Judge(FileReport report,
                      const std::vector<DetailEntry>& vecEntry,
                      const PendingDocument& document);
     FileReport Broken(FileReport report) const;
-    FileReport NotWritten(FileReport report, const std::string& strReason) const;
+    FileReport NotWritten(FileReport report,
+                          const PendingDocument& document,
+                          const std::string& strReason) const;
     std::string ForeignOption() const;
     void ExplainArguments(FileReport& report) const;
 
     FileCheck m_check;
     std::string m_strOutput;  ///< as the user gave it
+    std::optional<FilePlace> m_place;
     FilerFields m_fields;
     ConversionOptions m_options;
 };

@@ -182,7 +182,8 @@ ExitStatus NewCommand::Run()
         std::cout << strBytes;
         return ExitStatus::Passed;
     }
-    if (const std::string strWhy = WriteWhole(m_strOutput, strBytes); !strWhy.empty()) {
+    if (const std::string strWhy = WriteWhole(m_strOutput, strBytes, Existing::Kept);
+        !strWhy.empty()) {
         Complain(Say(NOT_WRITTEN, {MakeSafe(m_strOutput), strWhy}));
         return ExitStatus::NotWritten;
     }

@@ -4,154 +4,107 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <array>
 #include <cerrno>
-#include <climits>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <utility>
 
 namespace fs = std::filesystem;
 
 namespace host {
 namespace {
 
-constexpr mode_t NEW_FILE_MODE = 0666;
 constexpr mode_t MODE_BITS = 0777;
-constexpr const char* TEMPORARY_NAME = ".kzekamok-XXXXXX.mok";
-constexpr int SUFFIX_LENGTH = 4;
-constexpr int LINKS_MAX = 40;
-constexpr std::array INTERRUPTIONS = {SIGHUP, SIGINT, SIGTERM};
+/// In a folder that isn't there and that nobody can make.
+constexpr const char* NO_FOLDER = "/proc/self/kzekamok-absent/link.mok";
 
-// What the handler of an interruption has to remove. A signal finds it whole: the flag is set last
-// and cleared first.
-std::array<char, PATH_MAX> g_szPending;
-volatile std::sig_atomic_t g_bPending = 0;
-
-extern "C" void RemovePending(int nSignal)
+bool IsMissing(int nError)
 {
-    if (g_bPending != 0)
-        unlink(g_szPending.data());
-    std::signal(nSignal, SIG_DFL);
-    std::raise(nSignal);
-}
-
-bool HasDefaultAction(int nSignal)
-{
-    struct sigaction action = {};
-    return sigaction(nSignal, nullptr, &action) == 0 && action.sa_handler == SIG_DFL;
-}
-
-/// A caller that handles a signal by itself, or ignores it, keeps that.
-void RemoveOnInterruption(const std::string& strPath)
-{
-    if (strPath.size() >= g_szPending.size())
-        return;
-    std::ranges::copy(strPath, g_szPending.begin());
-    g_szPending[strPath.size()] = '\0';
-    g_bPending = 1;
-    for (const int nSignal : INTERRUPTIONS)
-        if (HasDefaultAction(nSignal))
-            std::signal(nSignal, RemovePending);
-}
-
-void KeepOnInterruption()
-{
-    g_bPending = 0;
-    for (const int nSignal : INTERRUPTIONS) {
-        struct sigaction action = {};
-        if (sigaction(nSignal, nullptr, &action) == 0 && action.sa_handler == RemovePending)
-            std::signal(nSignal, SIG_DFL);
-    }
-}
-
-/// What the path leads to, whether that exists or not. A device or a pipe keeps the path: the links
-/// by which the system shows open files have texts for targets and no paths.
-fs::path FollowLinks(fs::path path)
-{
-    std::error_code error;
-    if (fs::is_other(path, error))
-        return path;
-    for (int n = 0; n < LINKS_MAX && fs::is_symlink(fs::symlink_status(path, error)); ++n) {
-        const fs::path target = fs::read_symlink(path, error);
-        if (error)
-            break;
-        path = path.parent_path() / target;  // an absolute target stays as it is
-    }
-    return path;
-}
-
-mode_t ModeOfNewFile()
-{
-    const mode_t mask = umask(0);
-    umask(mask);
-    return NEW_FILE_MODE & ~mask;
+    return nError == ENOENT || nError == ENOTDIR;
 }
 
 }  // namespace
 
 PendingDocument::PendingDocument(const std::string& strPath)
-    : m_strPath(FollowLinks(strPath).string()), m_strTemporary(m_strPath)
+    : m_nError(FindPlace(strPath, m_place)), m_strPath(NO_FOLDER)
 {
 }
 
-PendingDocument::~PendingDocument()
+PendingDocument::PendingDocument(FilePlace place)
+    : m_place(std::move(place)), m_bFilesAlone(true), m_strPath(NO_FOLDER)
 {
-    if (m_nFile < 0)
-        return;
-    unlink(m_strTemporary.c_str());
-    KeepOnInterruption();
-    close(m_nFile);
 }
 
 std::string PendingDocument::Open()
 {
+    if (m_nError != 0)
+        return IsMissing(m_nError) ? std::string() : std::strerror(m_nError);
     struct stat info = {};
-    if (stat(m_strPath.c_str(), &info) != 0)
-        return errno == ENOENT || errno == ENOTDIR ? OpenTemporary(ModeOfNewFile())
-                                                   : std::strerror(errno);
+    if (fstatat(m_place.folder.Get(), m_place.strName.c_str(), &info,
+                m_place.bOpenFile ? 0 : AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT ? OpenFile(ModeOfNewFile()) : std::strerror(errno);
     if (S_ISDIR(info.st_mode))
         return std::strerror(EISDIR);
+    if (S_ISLNK(info.st_mode) && m_bFilesAlone)
+        return OpenFile(ModeOfNewFile());
     if (!S_ISREG(info.st_mode))
-        return {};
-    if (access(m_strPath.c_str(), W_OK) != 0)
+        return m_bFilesAlone ? std::strerror(EEXIST) : OpenDevice(info);
+    if (faccessat(m_place.folder.Get(), m_place.strName.c_str(), W_OK, AT_EACCESS) != 0)
         return std::strerror(errno);
-    return OpenTemporary(info.st_mode & MODE_BITS);
+    const mode_t mode = info.st_mode & MODE_BITS;
+    return OpenFile(info.st_uid == geteuid() ? mode : mode & ModeOfNewFile());
 }
 
-std::string PendingDocument::OpenTemporary(mode_t mode)
+std::string PendingDocument::OpenFile(mode_t mode)
 {
     m_mode = mode;
-    m_strTemporary = (fs::path(m_strPath).parent_path() / TEMPORARY_NAME).string();
-    m_nFile = mkostemps(m_strTemporary.data(), SUFFIX_LENGTH, O_CLOEXEC);
-    if (m_nFile < 0)
-        return errno == ENOENT || errno == ENOTDIR ? std::string() : std::strerror(errno);
-    RemoveOnInterruption(m_strTemporary);
-    return {};
+    m_file.emplace(m_place);
+    const int nError = m_file->Open();
+    if (nError != 0) {
+        m_file.reset();
+        return std::strerror(nError);
+    }
+    return MakePath(m_file->Folder());
 }
 
-std::uintmax_t PendingDocument::Size() const
+/// The private folder stands where temporary files do: beside a device nothing can be made.
+std::string PendingDocument::OpenDevice(const struct stat& info)
 {
-    struct stat info = {};
-    return m_nFile >= 0 && fstat(m_nFile, &info) == 0 ? static_cast<std::uintmax_t>(info.st_size)
-                                                      : 0;
-}
-
-std::string PendingDocument::Keep()
-{
-    if (m_nFile < 0)
-        return {};
-    // On the disk first: a name that survives a power failure must not belong to an empty file.
-    if (fchmod(m_nFile, m_mode) != 0 || fsync(m_nFile) != 0 ||
-        std::rename(m_strTemporary.c_str(), m_strPath.c_str()) != 0)
+    if (!m_place.bOpenFile && IsStrangersInSharedFolder(m_place.folder.Get(), info))
+        return std::strerror(EACCES);
+    const int nFlags = O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    Descriptor device(openat(m_place.folder.Get(), m_place.strName.c_str(),
+                             m_place.bOpenFile ? nFlags : nFlags | O_NOFOLLOW));
+    if (!device.IsOpen() || fcntl(device.Get(), F_SETFL, O_WRONLY) != 0)
         return std::strerror(errno);
-    KeepOnInterruption();
-    close(m_nFile);
-    m_nFile = -1;
+    struct stat opened = {};
+    if (fstat(device.Get(), &opened) != 0 || S_ISREG(opened.st_mode))
+        return std::strerror(EEXIST);
+    std::error_code error;
+    const fs::path folder = fs::temp_directory_path(error);
+    if (error)
+        return error.message();
+    Descriptor temporary;
+    int nError = FindFolder(folder.string(), Missing::Fails, temporary);
+    if (nError == 0)
+        nError = m_deviceFolder.Make(temporary.Get());
+    if (nError != 0)
+        return std::strerror(nError);
+    m_device = std::move(device);
+    return MakePath(m_deviceFolder);
+}
+
+std::string PendingDocument::MakePath(const PrivateFolder& folder)
+{
+    if (symlinkat(PathOfDescriptor(Get()).c_str(), folder.Get(), PrivateFolder::LINK_NAME) != 0)
+        return std::strerror(errno);
+    m_strPath = PathOfDescriptor(folder.Get()) + "/" + PrivateFolder::LINK_NAME;
     return {};
+}
+
+std::string PendingDocument::Keep(Existing eExisting)
+{
+    return m_file ? m_file->Keep(m_mode, eExisting) : std::string();
 }
 
 }  // namespace host

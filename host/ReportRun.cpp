@@ -10,6 +10,7 @@
 #include "Complain.h"
 #include "HtmlReport.h"
 #include "Language.h"
+#include "Leftovers.h"
 #include "Report.h"
 #include "ReportWords.h"
 #include "SafeText.h"
@@ -101,6 +102,7 @@ ExitStatus ReportRun::Finish()
         eStatus = Worse(eStatus, report.eStatus);
     if (m_options.strOutput.empty())
         return eStatus;
+    RemoveLeftoversBeside(m_options.strOutput);
     const std::string strProblem = WriteWhole(m_options.strOutput, m_file.str());
     if (strProblem.empty())
         return eStatus;

@@ -98,7 +98,7 @@ ExitStatus WriteParts(const std::vector<std::string>& vecPath,
                       const std::vector<std::string>& vecPart)
 {
     for (std::size_t n = 0; n < vecPart.size(); ++n) {
-        const std::string strWhy = WriteWhole(vecPath[n], vecPart[n]);
+        const std::string strWhy = WriteWhole(vecPath[n], vecPart[n], Existing::Kept);
         if (strWhy.empty())
             continue;
         std::error_code error;

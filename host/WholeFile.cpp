@@ -1,6 +1,5 @@
 #include "WholeFile.h"
 
-#include <fcntl.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -10,35 +9,39 @@
 #include "SourceFile.h"
 
 namespace host {
-namespace {
 
-bool WriteAll(int nFile, std::string_view strBytes)
+std::string WriteAll(int nFile, std::string_view strBytes)
 {
     while (!strBytes.empty()) {
         const ssize_t nWritten = write(nFile, strBytes.data(), strBytes.size());
         if (nWritten < 0 && errno != EINTR)
-            return false;
+            return std::strerror(errno);
         if (nWritten > 0)
             strBytes.remove_prefix(static_cast<std::size_t>(nWritten));
     }
-    return true;
+    return {};
 }
 
-}  // namespace
-
-std::string WriteWhole(const std::string& strPath, std::string_view strBytes)
+std::string WriteWhole(const std::string& strPath, std::string_view strBytes, Existing eExisting)
 {
     PendingDocument document(AbsolutePath(strPath));
     if (std::string strWhy = document.Open(); !strWhy.empty())
         return strWhy;
-    const int nFile = open(document.Path().c_str(), O_WRONLY | O_CLOEXEC);
-    if (nFile < 0)
-        return std::strerror(errno);
-    int nError = WriteAll(nFile, strBytes) ? 0 : errno;
-    // A full disk may show only here.
-    if (close(nFile) != 0 && nError == 0)
-        nError = errno;
-    return nError == 0 ? document.Keep() : std::strerror(nError);
+    if (document.Get() < 0)
+        return std::strerror(ENOENT);
+    if (std::string strWhy = WriteAll(document.Get(), strBytes); !strWhy.empty())
+        return strWhy;
+    return document.Keep(eExisting);
+}
+
+std::string WriteWhole(const FilePlace& place, std::string_view strBytes, mode_t mode)
+{
+    PendingFile file(place);
+    if (const int nError = file.Open(); nError != 0)
+        return std::strerror(nError);
+    if (std::string strWhy = WriteAll(file.Get(), strBytes); !strWhy.empty())
+        return strWhy;
+    return file.Keep(mode);
 }
 
 }  // namespace host

@@ -1,23 +1,25 @@
 #include "batch/BatchPage.h"
 
 #include <KZEkaMok/KZEkaMok.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
 #include <nlohmann/json.hpp>
 #include <set>
 #include <tuple>
 
 #include "DetailTable.h"
+#include "HtmlAssets.h"
 #include "HtmlText.h"
 #include "Language.h"
 #include "SafeText.h"
 #include "batch/FileState.h"
-#include "batch/PageParts.h"
+#include "batch/Journal.h"
+#include "files/FilePlace.h"
 
 namespace host {
 namespace {
@@ -27,9 +29,16 @@ using Json = nlohmann::ordered_json;
 constexpr std::size_t MARK_WITHIN = 1024;
 constexpr std::size_t VALUE_SHOWN = 40;
 constexpr std::size_t CODES_SHOWN = 4;
-/// A page may load nothing at all and run nothing but its own script.
-constexpr const char* POLICY =
-    "default-src 'none'; style-src 'unsafe-inline'; script-src 'unsafe-inline'";
+/// Marks a page as one of a batch, so that it may be replaced. Stands near its beginning.
+constexpr const char* PAGE_MARK = R"(<meta name="generator" content="kzekamok batch">)";
+
+/// A page may load nothing at all and use nothing but its own style and script.
+std::string Policy()
+{
+    return "default-src 'none'; style-src 'sha256-" + std::string(BATCH_STYLE_DIGEST) +
+           "'; script-src 'sha256-" + std::string(BATCH_SCRIPT_DIGEST) +
+           "'; base-uri 'none'; form-action 'none'";
+}
 
 /// A link to a file below the page's folder.
 std::string Link(const std::string& strRelative)
@@ -136,31 +145,27 @@ std::string NumberCell(const std::string& strKey, const std::string& strShown)
 
 }  // namespace
 
-bool BatchPage::IsOwnOrAbsent(const std::string& strPath)
+std::string BatchPage::ProblemOf(int nFolder, const char* szName)
 {
-    std::ifstream in(strPath, std::ios::binary);
-    if (!in)
-        return errno == ENOENT;
+    Descriptor file;
+    const int nError = OpenRegularFile(nFolder, szName, file);
+    if (nError == ENOENT)
+        return {};
+    if (nError == EACCES)
+        return std::strerror(nError);
     std::string strBegin(MARK_WITHIN, '\0');
-    in.read(strBegin.data(), static_cast<std::streamsize>(strBegin.size()));
-    return strBegin.find(PAGE_MARK) != std::string::npos;
+    if (nError == 0 && pread(file.Get(), strBegin.data(), strBegin.size(), 0) > 0 &&
+        strBegin.find(PAGE_MARK) != std::string::npos)
+        return {};
+    return Say({"it wasn't written by a batch", "バッチが作成したものではありません"});
 }
 
 BatchPage::BatchPage(std::size_t nFiles) : m_nFiles(nFiles) {}
 
-std::string BatchPage::AddReport(const std::string& strPath)
-{
-    std::ifstream in(strPath, std::ios::binary);
-    if (!in)
-        return std::strerror(errno);
-    std::string strLine;
-    while (std::getline(in, strLine))
-        Add(strLine);
-    return in.bad() ? std::strerror(EIO) : std::string();
-}
-
 void BatchPage::Add(std::string_view strLine)
 {
+    if (NestsTooDeep(strLine))
+        return;
     const Json line = Json::parse(strLine, nullptr, /*allow_exceptions=*/false);
     if (!line.is_object())
         return;
@@ -222,11 +227,12 @@ std::string BatchPage::Html()
     std::string strHtml = "<!DOCTYPE html>\n<html lang=\"";
     strHtml += Say({"en", "ja"});
     strHtml += std::string("\">\n<head>\n<meta charset=\"utf-8\">\n") + PAGE_MARK +
-               "\n<meta http-equiv=\"Content-Security-Policy\" content=\"" + POLICY +
+               "\n<meta http-equiv=\"Content-Security-Policy\" content=\"" + Policy() +
                "\">\n<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\">\n"
                "<title>" +
-               Say({"Batch: ", "バッチ："}) + HtmlOwnText(m_totals.Line()) + "</title>\n<style>" +
-               PAGE_STYLE + "</style>\n</head>\n<body>\n<main>\n";
+               Say({"Batch: ", "バッチ："}) + HtmlOwnText(m_totals.Line()) + "</title>\n<style>";
+    strHtml += BATCH_STYLE;
+    strHtml += "</style>\n</head>\n<body>\n<main>\n";
     AppendSummary(strHtml);
     strHtml += "<div class=\"side\">\n";
     AppendCodes(strHtml);
@@ -234,7 +240,9 @@ std::string BatchPage::Html()
     AppendSlowest(strHtml);
     strHtml += "</div>\n";
     AppendFiles(strHtml);
-    strHtml += std::string("</main>\n<script>") + PAGE_SCRIPT + "</script>\n</body>\n</html>\n";
+    strHtml += "</main>\n<script>";
+    strHtml += BATCH_SCRIPT;
+    strHtml += "</script>\n</body>\n</html>\n";
     return strHtml;
 }
 
@@ -252,17 +260,22 @@ void BatchPage::AppendSummary(std::string& strHtml) const
                    "</strong></p>\n";
     strHtml += "<ul class=\"counts\">\n<li><b>" + Number(m_totals.Files()) + "</b>" +
                Say({"files", "ファイル"}) + "</li>\n";
+    // No style of its own at an element: the policy lets no such through.
     std::string strBar;
+    std::size_t nBefore = 0;
     for (const Outcome eOutcome : BATCH_OUTCOMES) {
         const std::size_t nFiles = m_totals.Of(eOutcome);
         if (nFiles == 0)
             continue;
         strHtml += std::string("<li><b class=\"") + OutcomeStyle(eOutcome) + "\">" +
                    Number(nFiles) + "</b>" + OutcomeWord(eOutcome) + "</li>\n";
-        strBar += std::string("<span class=\"") + OutcomeStyle(eOutcome) +
-                  "\" style=\"flex:" + Number(nFiles) + "\"></span>";
+        strBar += std::string("<rect class=\"") + OutcomeStyle(eOutcome) + "\" x=\"" +
+                  Number(nBefore) + "\" width=\"" + Number(nFiles) + "\" height=\"1\"/>";
+        nBefore += nFiles;
     }
-    strHtml += "</ul>\n<div class=\"bar\" aria-hidden=\"true\">" + strBar + "</div>\n";
+    strHtml += R"(</ul>
+<svg class="bar" aria-hidden="true" preserveAspectRatio="none" viewBox="0 0 )" +
+               Number(nBefore) + " 1\">" + strBar + "</svg>\n";
 }
 
 void BatchPage::AppendCodes(std::string& strHtml) const
@@ -393,10 +406,10 @@ void BatchPage::AppendRow(std::string& strHtml, const Row& row)
     if (!row.strProblem.empty())
         strHtml += "<p>" + HtmlOwnText(row.strProblem) + "</p>";
     if (!row.strErrors.empty())
-        strHtml += "<details><summary>" + HtmlOwnText(row.strCodes) + "</summary><ul>" +
+        strHtml += "<details><summary>" + HtmlText(row.strCodes) + "</summary><ul>" +
                    row.strErrors + "</ul></details>";
     else
-        strHtml += HtmlOwnText(row.strCodes);
+        strHtml += HtmlText(row.strCodes);
     strHtml += "</td>" + NumberCell(Seconds(row.dSeconds), Seconds(row.dSeconds)) + "</tr>\n";
 }
 

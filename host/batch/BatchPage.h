@@ -20,15 +20,15 @@ namespace host {
 class BatchPage
 {
 public:
-    /// There is no file at the path, or it is a page of this kind.
-    static bool IsOwnOrAbsent(const std::string& strPath);
+    /// Looks at what stands where the page will. \param nFolder  Open.
+    /// \return The empty text if there is nothing, or a page of this kind, else why it isn't one:
+    /// the end of a sentence.
+    static std::string ProblemOf(int nFolder, const char* szName);
 
     /// \param nFiles  Files of the batch, of which not all may be in the report.
     explicit BatchPage(std::size_t nFiles);
     /// Takes a line of the report. What can't be read is left out.
     void Add(std::string_view strLine);
-    /// \return The empty text, or why it can't be read.
-    std::string AddReport(const std::string& strPath);
     /// The whole page in UTF-8.
     std::string Html();
 

@@ -1,9 +1,5 @@
 #include "batch/BatchRun.h"
 
-#include <dirent.h>
-#include <fcntl.h>
-#include <fnmatch.h>
-#include <sys/file.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -20,11 +16,16 @@
 #include "Complain.h"
 #include "ReportWords.h"
 #include "SafeText.h"
+#include "SourceFile.h"
 #include "UsageError.h"
 #include "WholeFile.h"
 #include "batch/BatchPage.h"
+#include "batch/EarlierDocument.h"
 #include "batch/Interrupt.h"
+#include "batch/MemoryLimit.h"
 #include "batch/OptionsHash.h"
+#include "files/FilePlace.h"
+#include "files/PrivateFolder.h"
 
 namespace fs = std::filesystem;
 
@@ -33,8 +34,6 @@ namespace {
 
 constexpr double SECONDS_BETWEEN_LOOKS = 0.1;  // of a person at the progress
 constexpr const char* CLEAR_LINE = "\r\033[K";
-/// What the writing of a document leaves behind where its process is killed.
-constexpr const char* LEFTOVER_PATTERN = ".kzekamok-??????.mok";
 
 /// Thrown where nothing can be recorded any more.
 struct JournalFailure
@@ -80,14 +79,8 @@ std::string OfTwo(std::size_t nDone, std::size_t nAll)
 }  // namespace
 
 BatchRun::BatchRun(const BatchSettings& settings, FileList list)
-    : m_settings(settings), m_list(std::move(list)), m_journal(OutputPath(REPORT_NAME))
+    : m_settings(settings), m_list(std::move(list))
 {
-}
-
-BatchRun::~BatchRun()
-{
-    if (m_nLock >= 0)
-        close(m_nLock);
 }
 
 ExitStatus BatchRun::Run()
@@ -101,48 +94,66 @@ ExitStatus BatchRun::Run()
     const auto stays = [this](const EarlierResult& earlier) {
         return m_setKept.contains(earlier.entry.strKey);
     };
-    if (m_strJournalProblem = m_journal.Begin(stays); m_strJournalProblem.empty())
+    if (m_strJournalProblem = m_journal->Begin(stays); m_strJournalProblem.empty())
         WorkOn();
     return Finish();
 }
 
 bool BatchRun::PrepareOutput()
 {
-    std::error_code error;
-    fs::create_directories(m_settings.strOutput, error);
-    m_nLock = error ? -1 : open(m_settings.strOutput.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (m_nLock < 0) {
-        Complain(
-            Say({"the output folder {1} can't be used: {2}",
-                 "出力フォルダー {1} を使用できません：{2}"},
-                {MakeSafe(m_settings.strOutput), error ? error.message() : std::strerror(errno)}));
+    const int nError = FindFolder(AbsolutePath(m_settings.strOutput), Missing::Made, m_output);
+    FilePlace report;
+    const int nBelow =
+        nError == 0 ? FindPlaceBelow(m_output.Get(), REPORT_NAME, Missing::Fails, report) : nError;
+    if (nBelow != 0) {
+        Complain(Say({"the output folder {1} can't be used: {2}",
+                      "出力フォルダー {1} を使用できません：{2}"},
+                     {MakeSafe(m_settings.strOutput), std::strerror(nBelow)}));
         return false;
     }
-    // Where folders can't be locked, nothing is.
-    if (flock(m_nLock, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK)
+    LockOutput();
+    m_journal.emplace(std::move(report), ReportMode());
+    return true;
+}
+
+void BatchRun::LockOutput()
+{
+    const int nError = m_lock.Lock(m_output.Get());
+    if (nError == EWOULDBLOCK)
         throw UsageError(Say({"another batch is at work in {1}. Wait for its end, or name another "
                               "output folder.",
                               "{1} では別のバッチが実行中です。終了を待つか、別の出力フォルダーを"
                               "指定してください。"},
                              {MakeSafe(m_settings.strOutput)}));
-    return true;
+    if (nError == EPERM)
+        throw UsageError(
+            Say({"{1} is another user's: a batch of that user may be at work. If there "
+                 "is none, remove the file, or name another output folder.",
+                 "{1} はほかのユーザーのファイルです。そのユーザーのバッチが実行中かも"
+                 "しれません。実行中でなければ削除するか、別の出力フォルダーを指定"
+                 "してください。"},
+                {MakeSafe(OutputPath(BatchLock::FILE_NAME))}));
+    if (nError != 0)
+        throw UsageError(Say({"{1} could not be made: {2}", "{1} を作成できません：{2}"},
+                             {MakeSafe(OutputPath(BatchLock::FILE_NAME)), std::strerror(nError)}));
 }
 
-/// Nobody's files are replaced because of a slip in the name of a folder.
+/// Nobody's files are replaced because of a slip in the name of a folder, and nothing is believed
+/// that others may have left there.
 void BatchRun::RequireOwnReport()
 {
-    const char* szForeign = nullptr;
-    if (!m_journal.Load())
-        szForeign = REPORT_NAME;
-    else if (!BatchPage::IsOwnOrAbsent(OutputPath(PAGE_NAME)))
+    const char* szForeign = REPORT_NAME;
+    std::string strProblem = m_journal->Load();
+    if (strProblem.empty()) {
         szForeign = PAGE_NAME;
-    if (szForeign != nullptr)
-        throw UsageError(
-            Say({"{1} is there already and wasn't written by a batch. Move it away, or name "
-                 "another output folder.",
-                 "{1} はバッチが作成したものではありません。移動するか、別の出力フォルダーを指定"
-                 "してください。"},
-                {MakeSafe(OutputPath(szForeign))}));
+        strProblem = BatchPage::ProblemOf(m_output.Get(), PAGE_NAME);
+    }
+    if (!strProblem.empty())
+        throw UsageError(Say({"{1} is there already, and {2}. Move it away, or name another output "
+                              "folder.",
+                              "{1} は既にありますが、{2}。移動するか、別の出力フォルダーを指定して"
+                              "ください。"},
+                             {MakeSafe(OutputPath(szForeign)), strProblem}));
 }
 
 void BatchRun::FindWork()
@@ -152,11 +163,11 @@ void BatchRun::FindWork()
     m_vecBefore.resize(m_list.vecFile.size());
     for (std::size_t n = 0; n < m_list.vecFile.size(); ++n) {
         const BatchFile& file = m_list.vecFile[n];
-        const auto it = m_journal.Earlier().find(file.strKey);
-        if (it != m_journal.Earlier().end())
+        const auto it = m_journal->Earlier().find(file.strKey);
+        if (it != m_journal->Earlier().end())
             ++m_nKnown;
         m_vecBefore[n] = Look(file);
-        if (!m_settings.bFresh && it != m_journal.Earlier().end() &&
+        if (!m_settings.bFresh && it != m_journal->Earlier().end() &&
             IsDone(file, m_vecBefore[n], it->second)) {
             m_setKept.insert(file.strKey);
             m_totals.Add(it->second.eOutcome, it->second.eStatus);
@@ -166,8 +177,7 @@ void BatchRun::FindWork()
     }
     if (!m_settings.bCheckOnly)
         RemoveOutdatedDocuments();
-    if (!m_journal.Earlier().empty())
-        RemoveLeftovers();
+    RemoveLeftovers();
 }
 
 BatchRun::Before BatchRun::Look(const BatchFile& file) const
@@ -190,40 +200,38 @@ bool BatchRun::IsDone(const BatchFile& file,
         return true;
     if (earlier.entry.strDocument != file.strDocument)
         return false;
-    std::error_code error;
     return earlier.eOutcome != Outcome::Converted ||
-           fs::file_size(OutputPath(file.strDocument), error) == earlier.nDocumentBytes;
+           SizeBelow(m_output.Get(), file.strDocument) == earlier.nDocumentBytes;
 }
 
 /// A document of what its file was before must not look as if it were of what the file is now.
-void BatchRun::RemoveOutdatedDocuments() const
+void BatchRun::RemoveOutdatedDocuments()
 {
     for (const std::size_t n : m_vecToDo) {
-        const auto it = m_journal.Earlier().find(m_list.vecFile[n].strKey);
-        if (it == m_journal.Earlier().end() || it->second.eOutcome != Outcome::Converted)
+        const auto it = m_journal->Earlier().find(m_list.vecFile[n].strKey);
+        if (it == m_journal->Earlier().end() || it->second.eOutcome != Outcome::Converted)
             continue;
         const std::string& strDocument = it->second.entry.strDocument;
-        const std::string strPath = OutputPath(strDocument);
-        std::error_code error;
         const bool bOthers =
             strDocument != m_list.vecFile[n].strDocument && m_setDocument.contains(strDocument);
         if (!strDocument.empty() && !bOthers &&
-            fs::file_size(strPath, error) == it->second.nDocumentBytes)
-            fs::remove(strPath, error);
+            RemoveDocument(m_output.Get(), strDocument, it->second.nDocumentBytes) ==
+                Removal::NotOurs)
+            ++m_nStrange;
     }
 }
 
-void BatchRun::RemoveLeftovers() const
+void BatchRun::RemoveLeftovers()
 {
-    std::unordered_set<std::string> setFolder;
+    // The report and the page are written in the output folder itself.
+    std::unordered_set<std::string> setFolder = {fs::path()};
     for (const std::string& strDocument : m_setDocument)
-        setFolder.insert(fs::path(OutputPath(strDocument)).parent_path().string());
+        setFolder.insert(fs::path(strDocument).parent_path().string());
     for (const std::string& strFolder : setFolder) {
-        std::error_code error;
-        for (auto it = fs::directory_iterator(strFolder, error); it != fs::directory_iterator();
-             it.increment(error))
-            if (fnmatch(LEFTOVER_PATTERN, it->path().filename().c_str(), 0) == 0)
-                unlink(it->path().c_str());
+        FilePlace place;
+        const std::string strInside = (fs::path(strFolder) / REPORT_NAME).string();
+        if (FindPlaceBelow(m_output.Get(), strInside, Missing::Fails, place) == 0)
+            m_nLeftOver += RemoveDeadFolders(place.folder.Get());
     }
 }
 
@@ -241,10 +249,25 @@ void BatchRun::TellNotes() const
          {"links to folders not followed: {1}.", "たどらなかったフォルダーへのリンク：{1}件。"});
     tell(m_list.nRepeated, {"files named more than once in the list: {1}; each is done once.",
                             "リスト内で重複したファイル：{1}件（1回だけ処理します）。"});
-    tell(m_journal.Earlier().size() - m_nKnown,
+    tell(m_journal->Earlier().size() - m_nKnown,
          {"results of earlier runs that leave the report as their files aren't part of this one: "
           "{1}. Their documents stay.",
           "今回の対象でないため、レポートから除く以前の結果：{1}件（文書は残します）。"});
+    tell(m_journal->BadLines(),
+         {"lines of report.json that can't be read: {1}. They go, and their files are done again.",
+          "report.json の読み取れない行：{1}件。除いて、そのファイルを処理し直します。"});
+    tell(m_journal->ForeignLines(),
+         {"lines of report.json that name a document outside of the output folder: {1}. No batch "
+          "wrote them. They go; what they name is left alone.",
+          "出力フォルダーの外の文書を指す report.json の行：{1}件。バッチが書いたものではないため"
+          "除きます。指されたファイルには触れません。"});
+    tell(
+        m_nStrange,
+        {"documents of earlier runs that are another's by now, or no documents: {1}. They are left "
+         "alone.",
+         "以前の実行の文書のうち、ほかのユーザーのものか文書でないもの：{1}件（触れません）。"});
+    tell(m_nLeftOver, {"unfinished files of runs that were ended, now removed: {1}.",
+                       "途中で終了した実行の書きかけのファイル（削除しました）：{1}件。"});
 }
 
 void BatchRun::WorkOn()
@@ -261,7 +284,8 @@ void BatchRun::WorkOn()
         [this] { ShowProgress(); },
     };
     try {
-        WorkerPool pool({m_settings.nWorkers, m_settings.dTimeout}, client, interrupt);
+        WorkerPool pool({m_settings.nWorkers, m_settings.dTimeout, m_settings.nMemory * MEBIBYTE},
+                        client, interrupt);
         pool.Run();
     } catch (const JournalFailure& failure) {
         m_strJournalProblem = failure.strProblem;
@@ -276,8 +300,8 @@ void BatchRun::WorkOn()
 
 std::unique_ptr<Work> BatchRun::MakeWorkInChild() const
 {
-    close(m_nLock);  // a worker that lives on must not hold the folder
-    return MakeFileWork(m_settings, m_list.vecFile);
+    m_lock.CloseInChild();
+    return MakeFileWork(m_settings, m_list.vecFile, m_output.Get());
 }
 
 std::optional<std::size_t> BatchRun::NextJob()
@@ -312,8 +336,25 @@ void BatchRun::Settle(const JobResult& result)
 FileAnswer BatchRun::AnswerFor(const JobResult& result) const
 {
     const std::string& strFile = m_list.vecFile[result.nJob].strPath;
-    if (result.eEnd == JobEnd::Answered)
-        return Unpack(result.strAnswer);
+    if (result.bOutOfMemory)
+        return AnswerWithout(strFile, result);
+    return result.eEnd == JobEnd::Answered ? Unpack(result.strAnswer)
+                                           : AnswerWithout(strFile, result);
+}
+
+/// For a file whose worker has not told all.
+FileAnswer BatchRun::AnswerWithout(const std::string& strFile, const JobResult& result) const
+{
+    if (result.bOutOfMemory)
+        return MakeAnswer(
+            NotChecked(strFile,
+                       Say({"The file was not checked to its end: it needs more memory than the "
+                            "limit of {1} MiB.",
+                            "ファイルを最後までチェックできませんでした（メモリの上限 {1} MiB を"
+                            "超えました）。"},
+                           {std::to_string(m_settings.nMemory)}),
+                       Say({"Give it more by --memory.", "--memory で増やしてください。"})),
+            m_settings.style);
     if (result.eEnd == JobEnd::TimedOut)
         return MakeAnswer(
             NotChecked(
@@ -341,7 +382,7 @@ void BatchRun::Record(std::size_t nFile, const FileAnswer& answer, double dSecon
 {
     const BatchFile& file = m_list.vecFile[nFile];
     const Before& before = m_vecBefore[nFile];
-    const std::string strProblem = m_journal.Append(JournalLine(
+    const std::string strProblem = m_journal->Append(JournalLine(
         answer.strReport, {file.strKey, before.state, before.strOptions,
                            m_settings.bCheckOnly ? std::string() : file.strDocument, dSeconds}));
     if (!strProblem.empty())
@@ -369,9 +410,19 @@ void BatchRun::HideProgress()
     m_bShowProgress = false;
 }
 
+/// Why the report that stands there isn't all that it should be, or the empty text.
+std::string BatchRun::JournalProblem() const
+{
+    if (!m_strJournalProblem.empty() || m_journal->IsInPlace())
+        return m_strJournalProblem;
+    return Say({"somebody else has put another file in its place",
+                "ほかのユーザーが別のファイルに置き換えました"});
+}
+
 ExitStatus BatchRun::Finish()
 {
     ExitStatus eStatus = m_totals.Worst();
+    m_strJournalProblem = JournalProblem();
     if (!m_strJournalProblem.empty()) {
         Complain(Say({"the report {1} could not be written: {2}. What isn't in it will be done "
                       "again.",
@@ -396,8 +447,21 @@ ExitStatus BatchRun::Finish()
 std::string BatchRun::WritePage() const
 {
     BatchPage page(m_list.vecFile.size());
-    const std::string strProblem = page.AddReport(OutputPath(REPORT_NAME));
-    return strProblem.empty() ? WriteWhole(OutputPath(PAGE_NAME), page.Html()) : strProblem;
+    std::string strProblem =
+        m_journal->Read([&](const std::string& strLine) { page.Add(strLine); });
+    if (!strProblem.empty())
+        return strProblem;
+    FilePlace place;
+    if (const int nError = FindPlaceBelow(m_output.Get(), PAGE_NAME, Missing::Fails, place);
+        nError != 0)
+        return std::strerror(nError);
+    return WriteWhole(place, page.Html(), ReportMode());
+}
+
+/// Both hold taxpayers' values.
+mode_t BatchRun::ReportMode() const
+{
+    return m_settings.bShareReport ? ModeOfNewFile() : OWNERS_FILE;
 }
 
 void BatchRun::WriteSummary() const

@@ -1,6 +1,8 @@
 // A batch from the list of files to the report.
 #pragma once
 
+#include <sys/types.h>
+
 #include <memory>
 #include <optional>
 #include <string>
@@ -8,12 +10,14 @@
 #include <vector>
 
 #include "ExitStatus.h"
+#include "batch/BatchLock.h"
 #include "batch/BatchTotals.h"
 #include "batch/FileList.h"
 #include "batch/FileWork.h"
 #include "batch/Journal.h"
 #include "batch/Progress.h"
 #include "batch/WorkerPool.h"
+#include "files/Descriptor.h"
 
 namespace host {
 
@@ -21,7 +25,7 @@ class BatchRun
 {
 public:
     BatchRun(const BatchSettings& settings, FileList list);
-    ~BatchRun();
+    ~BatchRun() = default;
     BatchRun(const BatchRun&) = delete;
     BatchRun& operator=(const BatchRun&) = delete;
 
@@ -41,23 +45,27 @@ private:
     };
 
     bool PrepareOutput();
+    void LockOutput();
     void RequireOwnReport();
     void FindWork();
     Before Look(const BatchFile& file) const;
     bool IsDone(const BatchFile& file, const Before& before, const EarlierResult& earlier) const;
-    void RemoveOutdatedDocuments() const;
-    void RemoveLeftovers() const;
+    void RemoveOutdatedDocuments();
+    void RemoveLeftovers();
     void TellNotes() const;
     void WorkOn();
     std::unique_ptr<Work> MakeWorkInChild() const;
     std::optional<std::size_t> NextJob();
     void Settle(const JobResult& result);
     FileAnswer AnswerFor(const JobResult& result) const;
+    FileAnswer AnswerWithout(const std::string& strFile, const JobResult& result) const;
     void Record(std::size_t nFile, const FileAnswer& answer, double dSeconds);
     void ShowProgress();
     void HideProgress();
     ExitStatus Finish();
+    std::string JournalProblem() const;
     std::string WritePage() const;
+    mode_t ReportMode() const;
     void WriteSummary() const;
     void TellEnd() const;
     std::string OutputPath(const std::string& strName) const;
@@ -65,16 +73,19 @@ private:
     const BatchSettings& m_settings;
     FileList m_list;
     std::unordered_set<std::string> m_setDocument;  ///< of all the files
-    std::string m_strOptions;  ///< hash of all that results depend on beside the files
-    Journal m_journal;
-    int m_nLock = -1;                           ///< the output folder, locked
-    std::vector<Before> m_vecBefore;            ///< by index into m_list.vecFile
+    std::string m_strOptions;          ///< hash of all that results depend on beside the files
+    Descriptor m_output;               ///< the output folder
+    BatchLock m_lock;                  ///< of the output folder
+    std::optional<Journal> m_journal;  ///< once there is an output folder
+    std::vector<Before> m_vecBefore;   ///< by index into m_list.vecFile
     std::unordered_set<std::string> m_setKept;  ///< keys of files whose earlier result counts
     std::size_t m_nKnown = 0;                   ///< files that have an earlier result
     std::vector<std::size_t> m_vecToDo;         ///< indices into m_list.vecFile
     std::size_t m_nNext = 0;                    ///< into m_vecToDo
     BatchTotals m_totals;
     bool m_bWorkerDied = false;
+    std::size_t m_nStrange = 0;       ///< documents of earlier runs that are no more what they were
+    std::size_t m_nLeftOver = 0;      ///< unfinished files of runs that were ended
     std::string m_strJournalProblem;  ///< empty as long as results can be recorded
     std::optional<Progress> m_progress;
     double m_dStart = 0;

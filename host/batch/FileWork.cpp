@@ -2,6 +2,9 @@
 
 #include <KZEkaMok/KZEkaMok.h>
 
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
 #include <exception>
 #include <filesystem>
 #include <nlohmann/json.hpp>
@@ -16,6 +19,8 @@
 #include "SafeText.h"
 #include "UsageError.h"
 #include "XercesGuards.h"
+#include "batch/Journal.h"
+#include "files/FilePlace.h"
 
 namespace fs = std::filesystem;
 
@@ -23,13 +28,15 @@ namespace host {
 namespace {
 
 constexpr const char* PROFILE_ENDING = ".toml";
+/// The rest of a line are names: that of the file and of its document.
+constexpr std::size_t REPORT_LONGEST = Journal::LINE_LONGEST - 1024 * 1024;
 constexpr std::size_t PACKED_HEAD = 2;  // outcome and status
 
 class FileWork final : public Work
 {
 public:
-    FileWork(const BatchSettings& settings, const std::vector<BatchFile>& vecFile)
-        : m_settings(settings), m_vecFile(vecFile)
+    FileWork(const BatchSettings& settings, const std::vector<BatchFile>& vecFile, int nOutput)
+        : m_settings(settings), m_vecFile(vecFile), m_nOutput(nOutput)
     {
     }
 
@@ -78,19 +85,20 @@ private:
                              Say({"Correct the profile.", "プロファイルを修正してください。"}));
         }
         const fs::path path = fs::path(m_settings.strOutput) / file.strDocument;
-        std::error_code error;
-        fs::create_directories(path.parent_path(), error);
-        if (error)
+        FilePlace place;
+        if (const int nError = FindPlaceBelow(m_nOutput, file.strDocument, Missing::Made, place);
+            nError != 0)
             return CheckOnly(file, Outcome::NotWritten, ExitStatus::NotWritten,
                              Say({"The folder {1} of the document could not be made: {2}.",
                                   "文書のフォルダー {1} を作成できませんでした（{2}）。"},
-                                 {MakeSafe(path.parent_path().string()), error.message()}),
+                                 {MakeSafe(path.parent_path().string()), std::strerror(nError)}),
                              Say({"Make sure that the output folder can be written to.",
                                   "出力フォルダーに書き込めることを確認してください。"}));
         KZICsvConvMokEka library;
-        FileReport report = FileConversion(library, m_definitions, file.strPath, path.string(),
-                                           fields, {.family = m_settings.family})
-                                .Run();
+        FileConversion conversion(library, m_definitions, file.strPath, path.string(), fields,
+                                  {.family = m_settings.family});
+        conversion.WriteTo(std::move(place));
+        FileReport report = conversion.Run();
         library.Terminate();
         return report;
     }
@@ -125,6 +133,7 @@ private:
 
     const BatchSettings& m_settings;
     const std::vector<BatchFile>& m_vecFile;
+    int m_nOutput;
     XercesSession m_xml;  ///< running from file to file: its start takes longer than a small file
     Definitions m_definitions;
 };
@@ -133,8 +142,14 @@ private:
 
 FileAnswer MakeAnswer(const FileReport& report, const ReportStyle& style)
 {
+    ReportStyle shorter = style;
+    std::string strReport = JsonText(FileToJson(report, shorter));
+    while (strReport.size() > REPORT_LONGEST && shorter.limit.value_or(1) > 0) {
+        shorter.limit = std::min(shorter.limit.value_or(SIZE_MAX), report.vecError.size()) / 2;
+        strReport = JsonText(FileToJson(report, shorter));
+    }
     return {report.eOutcome, report.eStatus, report.strProblem + " " + report.strAdvice,
-            JsonText(FileToJson(report, style))};
+            std::move(strReport)};
 }
 
 std::string Pack(const FileAnswer& answer)
@@ -156,9 +171,10 @@ std::string ProfileBeside(const std::string& strFile)
 }
 
 std::unique_ptr<Work> MakeFileWork(const BatchSettings& settings,
-                                   const std::vector<BatchFile>& vecFile)
+                                   const std::vector<BatchFile>& vecFile,
+                                   int nOutput)
 {
-    return std::make_unique<FileWork>(settings, vecFile);
+    return std::make_unique<FileWork>(settings, vecFile, nOutput);
 }
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #include "batch/Journal.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
@@ -9,20 +10,25 @@
 #include <cmath>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
 #include <nlohmann/json.hpp>
+#include <stdexcept>
+#include <utility>
 #include <vector>
 
 #include "JsonReport.h"
+#include "Language.h"
 #include "ShiftJis.h"
+#include "WholeFile.h"
+#include "files/LineReader.h"
 
 namespace host {
 namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr const char* NEW_ENDING = ".new";
-constexpr mode_t NEW_FILE_MODE = 0666;
+constexpr int DEPTH_MOST = 32;  // a line of a batch has 5
+constexpr uid_t ROOT = 0;
+constexpr std::string_view DOCUMENT_ENDING = ".mok";
 constexpr double SECOND_FRACTION = 1e6;
 constexpr std::array SKIPPED_MEMBERS = {"errors", "notices", "counts"};
 
@@ -71,25 +77,30 @@ EarlierResult ReadResult(const Json& line)
     result.entry.strOptions = batch.at("options");
     result.entry.strDocument = TextOf(batch.at("document"));
     result.entry.dSeconds = batch.at("seconds");
-    result.eStatus = static_cast<ExitStatus>(line.at("status").get<int>());
-    result.eOutcome =
-        OutcomeOfName(line.at("result").get<std::string>()).value_or(Outcome::NotChecked);
+    const std::int64_t nStatus = line.at("status");
+    const auto outcome = OutcomeOfName(line.at("result").get<std::string>());
+    if (nStatus < static_cast<std::int64_t>(ExitStatus::Passed) ||
+        nStatus > static_cast<std::int64_t>(ExitStatus::NotWritten) || !outcome)
+        throw std::range_error("no result of a batch");
+    result.eStatus = static_cast<ExitStatus>(nStatus);
+    result.eOutcome = *outcome;
     if (line.at("document").is_object())
         result.nDocumentBytes = line.at("document").at("bytes");
     return result;
 }
 
-/// \return The empty text, or why not all could be written.
-std::string WriteAll(int nFile, std::string_view strBytes)
+// Ends of sentences.
+constexpr Text NOT_OURS = {"it wasn't written by a batch", "バッチが作成したものではありません"};
+constexpr Text NO_FILE = {"it is no regular file", "通常のファイルではありません"};
+constexpr Text STRANGERS = {"it belongs to another user", "ほかのユーザーのものです"};
+constexpr Text LONG_LINE = {"a line in it is longer than 16 MiB", "16 MiBを超える行があります"};
+constexpr Text TOO_LARGE = {"it is larger than 4 GiB", "4 GiBを超えています"};
+constexpr Text UNREADABLE = {"it can't be read: {1}", "読み取れません（{1}）"};
+
+/// Whether a batch could have given a document this name. A file without one has the empty text.
+bool CanBeDocument(const std::string& strName)
 {
-    while (!strBytes.empty()) {
-        const ssize_t nWritten = write(nFile, strBytes.data(), strBytes.size());
-        if (nWritten < 0 && errno != EINTR)
-            return std::strerror(errno);
-        if (nWritten > 0)
-            strBytes.remove_prefix(static_cast<std::size_t>(nWritten));
-    }
-    return {};
+    return strName.empty() || (LeadsBelow(strName) && strName.ends_with(DOCUMENT_ENDING));
 }
 
 }  // namespace
@@ -110,6 +121,8 @@ std::string JournalLine(const std::string& strReport, const JournalEntry& entry)
 
 std::optional<EarlierResult> ReadJournalLine(std::string_view strLine)
 {
+    if (NestsTooDeep(strLine))
+        return std::nullopt;
     // Most of a line is errors, which nobody asks for here.
     const auto keep = [](int nDepth, Json::parse_event_t eEvent, Json& value) {
         return nDepth != 1 || eEvent != Json::parse_event_t::key ||
@@ -126,58 +139,91 @@ std::optional<EarlierResult> ReadJournalLine(std::string_view strLine)
     }
 }
 
-Journal::Journal(const std::string& strPath) : m_strPath(strPath) {}
-
-Journal::~Journal()
+bool NestsTooDeep(std::string_view strLine)
 {
-    if (m_nFile >= 0)
-        close(m_nFile);
+    int nDepth = 0;
+    bool bInText = false;
+    for (std::size_t n = 0; n < strLine.size(); ++n) {
+        const char c = strLine[n];
+        if (c == '"')
+            bInText = !bInText;
+        else if (bInText && c == '\\')
+            ++n;
+        else if (!bInText && (c == '[' || c == '{') && ++nDepth > DEPTH_MOST)
+            return true;
+        else if (!bInText && (c == ']' || c == '}'))
+            --nDepth;
+    }
+    return false;
 }
 
-bool Journal::Load()
+Journal::Journal(FilePlace place, mode_t mode) : m_place(std::move(place)), m_mode(mode) {}
+
+/// \return As Load; nothing is opened if there is no file.
+std::string Journal::Open()
 {
-    if (access(m_strPath.c_str(), F_OK) != 0)
-        return errno == ENOENT;
-    std::ifstream in(m_strPath, std::ios::binary);
+    const int nError = OpenRegularFile(m_place.folder.Get(), m_place.strName.c_str(), m_file);
+    if (nError == ENOENT)
+        return {};
+    if (nError == ELOOP || nError == EINVAL || nError == EISDIR || nError == ENXIO)
+        return Say(NO_FILE);
+    struct stat info = {};
+    if (nError != 0 || fstat(m_file.Get(), &info) != 0)
+        return Say(UNREADABLE, {std::strerror(nError != 0 ? nError : errno)});
+    if (info.st_uid != geteuid() && info.st_uid != ROOT)
+        return Say(STRANGERS);
+    return static_cast<std::uint64_t>(info.st_size) > BYTES_MOST ? Say(TOO_LARGE) : std::string();
+}
+
+std::string Journal::Load()
+{
+    if (std::string strProblem = Open(); !strProblem.empty() || !m_file.IsOpen())
+        return strProblem;
+    LineReader reader(m_file.Get(), LINE_LONGEST);
     std::string strLine;
-    std::uint64_t nPlace = 0;
-    bool bOurs = in.is_open();
-    while (std::getline(in, strLine)) {
-        const bool bWhole = !in.eof();
-        if (auto result = bWhole ? ReadJournalLine(strLine) : std::nullopt) {
-            result->nPlace = nPlace;
+    LineReader::Got eGot = LineReader::Got::End;
+    while ((eGot = reader.Next(strLine)) == LineReader::Got::Line) {
+        if (reader.Place() > BYTES_MOST)
+            return Say(TOO_LARGE);
+        auto result = ReadJournalLine(strLine);
+        if (!result && reader.Place() == 0)
+            return Say(NOT_OURS);
+        if (!result) {
+            ++m_nBad;
+        } else if (!CanBeDocument(result->entry.strDocument)) {
+            ++m_nForeign;
+        } else {
+            result->nPlace = reader.Place();
             result->nLength = strLine.size() + 1;
             std::string strKey = result->entry.strKey;
             m_mapEarlier[std::move(strKey)] = std::move(*result);
-        } else if (nPlace == 0) {
-            // A first line that was torn still begins as one.
-            bOurs = !bWhole && std::string_view("{\"file\":").starts_with(strLine.substr(0, 8));
         }
-        nPlace += strLine.size() + 1;
     }
-    return bOurs && !in.bad();
+    if (eGot == LineReader::Got::TooLong)
+        return Say(LONG_LINE);
+    if (eGot == LineReader::Got::Failed)
+        return Say(UNREADABLE, {std::strerror(EIO)});
+    // A first line that was torn still begins as one.
+    const bool bOurs = eGot != LineReader::Got::Torn || reader.Place() > 0 ||
+                       std::string_view("{\"file\":").starts_with(strLine.substr(0, 8));
+    return bOurs ? std::string() : Say(NOT_OURS);
 }
 
 std::string Journal::Begin(const std::function<bool(const EarlierResult&)>& stays)
 {
-    const std::string strNew = m_strPath + NEW_ENDING;
-    const int nNew =
-        open(strNew.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_APPEND | O_CLOEXEC, NEW_FILE_MODE);
-    if (nNew < 0)
-        return std::strerror(errno);
-    std::string strProblem = CopyLines(nNew, stays);
-    if (strProblem.empty() && std::rename(strNew.c_str(), m_strPath.c_str()) != 0)
-        strProblem = std::strerror(errno);
-    if (!strProblem.empty()) {
-        close(nNew);
-        unlink(strNew.c_str());
+    PendingFile file(m_place);
+    if (const int nError = file.Open(); nError != 0)
+        return std::strerror(nError);
+    if (std::string strProblem = CopyLines(file.Get(), stays); !strProblem.empty())
         return strProblem;
-    }
-    m_nFile = nNew;
-    return {};
+    if (std::string strProblem = file.Keep(m_mode); !strProblem.empty())
+        return strProblem;
+    m_file = file.Take();
+    return fcntl(m_file.Get(), F_SETFL, O_APPEND) == 0 ? std::string() : std::strerror(errno);
 }
 
-std::string Journal::CopyLines(int nTo, const std::function<bool(const EarlierResult&)>& stays)
+std::string Journal::CopyLines(int nTo,
+                               const std::function<bool(const EarlierResult&)>& stays) const
 {
     std::vector<const EarlierResult*> vecResult;
     for (const auto& [strKey, result] : m_mapEarlier)
@@ -185,12 +231,11 @@ std::string Journal::CopyLines(int nTo, const std::function<bool(const EarlierRe
             vecResult.push_back(&result);
     std::ranges::sort(vecResult, {}, &EarlierResult::nPlace);
 
-    std::ifstream in(m_strPath, std::ios::binary);
     std::string strLine;
     for (const EarlierResult* pResult : vecResult) {
         strLine.resize(pResult->nLength);
-        in.seekg(static_cast<std::streamoff>(pResult->nPlace));
-        if (!in.read(strLine.data(), static_cast<std::streamsize>(strLine.size())))
+        if (pread(m_file.Get(), strLine.data(), strLine.size(),
+                  static_cast<off_t>(pResult->nPlace)) != static_cast<ssize_t>(strLine.size()))
             return std::strerror(EIO);
         if (std::string strProblem = WriteAll(nTo, strLine); !strProblem.empty())
             return strProblem;
@@ -200,12 +245,38 @@ std::string Journal::CopyLines(int nTo, const std::function<bool(const EarlierRe
 
 std::string Journal::Append(const std::string& strLine)
 {
-    const off_t nEnd = lseek(m_nFile, 0, SEEK_END);
-    std::string strProblem = WriteAll(m_nFile, strLine);
+    const off_t nEnd = lseek(m_file.Get(), 0, SEEK_END);
+    // What the next run would not read isn't written.
+    if (strLine.size() > LINE_LONGEST ||
+        static_cast<std::uint64_t>(std::max<off_t>(nEnd, 0)) + strLine.size() > BYTES_MOST)
+        return std::strerror(EFBIG);
+    std::string strProblem = WriteAll(m_file.Get(), strLine);
     // A part of a line is written where the disk becomes full in it.
-    if (!strProblem.empty() && nEnd >= 0 && ftruncate(m_nFile, nEnd) != 0)
+    if (!strProblem.empty() && nEnd >= 0 && ftruncate(m_file.Get(), nEnd) != 0)
         strProblem += ", and the line that was begun could not be taken back";
     return strProblem;
+}
+
+std::string Journal::Read(const std::function<void(const std::string&)>& take) const
+{
+    if (!m_file.IsOpen())
+        return std::strerror(ENOENT);
+    LineReader reader(m_file.Get(), LINE_LONGEST);
+    std::string strLine;
+    LineReader::Got eGot = LineReader::Got::End;
+    while ((eGot = reader.Next(strLine)) == LineReader::Got::Line)
+        take(strLine);
+    return eGot == LineReader::Got::Failed ? std::strerror(EIO) : std::string();
+}
+
+bool Journal::IsInPlace() const
+{
+    struct stat named = {};
+    struct stat written = {};
+    return fstatat(m_place.folder.Get(), m_place.strName.c_str(), &named, AT_SYMLINK_NOFOLLOW) ==
+               0 &&
+           fstat(m_file.Get(), &written) == 0 && named.st_dev == written.st_dev &&
+           named.st_ino == written.st_ino;
 }
 
 }  // namespace host

@@ -1,6 +1,8 @@
 // The report of a batch, a line of JSON for each file, by which a later run knows what is done.
 #pragma once
 
+#include <sys/types.h>
+
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -12,6 +14,8 @@
 #include "ExitStatus.h"
 #include "FileReport.h"
 #include "batch/FileState.h"
+#include "files/FilePlace.h"
+#include "files/PendingFile.h"
 
 namespace host {
 
@@ -40,24 +44,38 @@ struct EarlierResult
 /// \param strReport  The report as an object of JSON on one line.
 std::string JournalLine(const std::string& strReport, const JournalEntry& entry);
 
-/// What a line says, or nothing if it is torn or of another kind. The place isn't set.
+/// What a line says, or nothing if it is torn, of another kind, or nested as no line of a batch is.
+/// The place isn't set.
 std::optional<EarlierResult> ReadJournalLine(std::string_view strLine);
 
+/// Whether a text of JSON nests deeper than any line of a batch: what reads it may recurse.
+bool NestsTooDeep(std::string_view strLine);
+
+/// Whoever may write in the output folder can have made the file, so nothing in it is believed that
+/// couldn't be, and what would cost too much isn't read.
 class Journal
 {
 public:
-    /// \param strPath  Path of the report; nothing is done with it yet.
-    explicit Journal(const std::string& strPath);
-    ~Journal();
+    static constexpr std::size_t LINE_LONGEST = std::size_t{16} * 1024 * 1024;  ///< bytes
+    static constexpr std::uint64_t BYTES_MOST = std::uint64_t{4} * 1024 * 1024 * 1024;
+
+    /// \param place  Of the report; nothing is done with it yet. \param mode  Rights of the report.
+    explicit Journal(FilePlace place, mode_t mode = OWNERS_FILE);
     Journal(const Journal&) = delete;
     Journal& operator=(const Journal&) = delete;
 
     /// Reads the results of earlier runs; of several for a file the last counts. A last line that
     /// isn't whole is passed over.
-    /// \return false if the file is there and holds something else than results, or can't be read.
-    bool Load();
+    /// \return The empty text, or why what stands at the place isn't a report that can be gone on
+    /// with: the end of a sentence.
+    std::string Load();
     /// By the key of the file, as Load found them.
     const std::unordered_map<std::string, EarlierResult>& Earlier() const { return m_mapEarlier; }
+    /// Lines that Load could not make out, but for a torn last one.
+    std::size_t BadLines() const { return m_nBad; }
+    /// Results that Load left out as they name a document that can't be one below the output
+    /// folder.
+    std::size_t ForeignLines() const { return m_nForeign; }
 
     /// Makes the file anew with those lines alone that are to stay, and opens it for Append. The
     /// file before it stays until the new one is whole.
@@ -67,12 +85,22 @@ public:
     /// \return The empty text, or why it can't be written.
     std::string Append(const std::string& strLine);
 
-private:
-    std::string CopyLines(int nTo, const std::function<bool(const EarlierResult&)>& stays);
+    /// Gives all whole lines of the file that Begin made, or that Load read. What stands at the
+    /// place by now doesn't count. \return The empty text, or why not all could be read.
+    std::string Read(const std::function<void(const std::string&)>& take) const;
+    /// Whether the file that Begin made still stands at the place.
+    bool IsInPlace() const;
 
-    std::string m_strPath;
-    int m_nFile = -1;
+private:
+    std::string Open();
+    std::string CopyLines(int nTo, const std::function<bool(const EarlierResult&)>& stays) const;
+
+    FilePlace m_place;
+    mode_t m_mode;
+    Descriptor m_file;
     std::unordered_map<std::string, EarlierResult> m_mapEarlier;
+    std::size_t m_nBad = 0;
+    std::size_t m_nForeign = 0;
 };
 
 }  // namespace host

@@ -1,6 +1,7 @@
 #include "batch/WorkerPool.h"
 
 #include <poll.h>
+#include <sys/mman.h>
 #include <sys/prctl.h>
 #include <sys/socket.h>
 #include <sys/wait.h>
@@ -17,6 +18,8 @@
 #include <cstring>
 #include <system_error>
 #include <utility>
+
+#include "batch/MemoryLimit.h"
 
 namespace host {
 namespace {
@@ -76,8 +79,12 @@ WorkerPool::WorkerPool(const Settings& settings, const Client& client, const Int
     : m_settings(settings),
       m_client(client),
       m_interrupt(interrupt),
-      m_vecWorker(std::max<std::size_t>(settings.nWorkers, 1))
+      m_vecWorker(std::max<std::size_t>(settings.nWorkers, 1)),
+      m_pShared(mmap(
+          nullptr, m_vecWorker.size(), PROT_READ | PROT_WRITE, MAP_SHARED | MAP_ANONYMOUS, -1, 0))
 {
+    if (m_pShared == MAP_FAILED)
+        throw std::system_error(errno, std::generic_category(), "no memory for the workers");
 }
 
 WorkerPool::~WorkerPool()
@@ -85,6 +92,12 @@ WorkerPool::~WorkerPool()
     for (Worker& worker : m_vecWorker)
         if (worker.nProcess > 0)
             End(worker, /*bKill=*/worker.bBusy);
+    munmap(m_pShared, m_vecWorker.size());
+}
+
+volatile bool* WorkerPool::OutOfMemory(const Worker& worker) const
+{
+    return static_cast<volatile bool*>(m_pShared) + (&worker - m_vecWorker.data());
 }
 
 void WorkerPool::Run()
@@ -141,7 +154,7 @@ bool WorkerPool::Start(Worker& worker)
     const pid_t nProcess = fork();
     if (nProcess == 0) {
         close(socket[0]);
-        ServeInChild(socket[1], nParent);
+        ServeInChild(worker, socket[1], nParent);
     }
     const int nError = errno;
     close(socket[1]);
@@ -156,7 +169,7 @@ bool WorkerPool::Start(Worker& worker)
     return true;
 }
 
-void WorkerPool::ServeInChild(int nSocket, pid_t nParent)
+void WorkerPool::ServeInChild(const Worker& worker, int nSocket, pid_t nParent)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
     if (getppid() != nParent)
@@ -166,6 +179,7 @@ void WorkerPool::ServeInChild(int nSocket, pid_t nParent)
     for (const Worker& other : m_vecWorker)
         if (other.nSocket >= 0)
             close(other.nSocket);
+    LimitMemory(m_settings.nMemory, OutOfMemory(worker));
     try {
         const std::unique_ptr<Work> pWork = m_client.makeWork();
         std::uint64_t nJob = 0;
@@ -227,8 +241,11 @@ void WorkerPool::Settle(Worker& worker, JobEnd eEnd, std::string strAnswer)
     result.eEnd = eEnd;
     result.strAnswer = std::move(strAnswer);
     result.dSeconds = SteadyNow() - worker.dStart;
+    result.bOutOfMemory = *OutOfMemory(worker);
+    *OutOfMemory(worker) = false;
     worker.bBusy = false;
-    if (eEnd != JobEnd::Answered)
+    // What a process without memory has left undone may cost the next job, too.
+    if (eEnd != JobEnd::Answered || result.bOutOfMemory)
         result.nWaitStatus = End(worker, /*bKill=*/eEnd != JobEnd::Died);
     m_client.done(std::move(result));
 }

@@ -5,6 +5,7 @@
 #include <sys/types.h>
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -38,6 +39,9 @@ struct JobResult
     JobEnd eEnd = JobEnd::Answered;
     std::string strAnswer;  ///< empty unless answered
     int nWaitStatus = 0;    ///< of waitpid, unless answered
+    /// The process asked for more memory than it may have. Then an answer counts for nothing, as
+    /// nobody knows what it lacks.
+    bool bOutOfMemory = false;
     double dSeconds = 0;
 };
 
@@ -51,6 +55,8 @@ public:
     {
         std::size_t nWorkers = 1;
         double dTimeout = 0;  ///< most seconds for a job; 0 for no limit
+        /// Most bytes that a process takes beside what it begins with; 0 for no limit.
+        std::uint64_t nMemory = 0;
     };
     struct Client
     {
@@ -65,6 +71,7 @@ public:
     static constexpr double TICK_SECONDS = 0.2;
 
     /// No thread may run beside the caller's. All that is given has to live as long as the object.
+    /// Throws std::system_error if the system gives nothing.
     WorkerPool(const Settings& settings, const Client& client, const Interrupt& interrupt);
     /// Ends the processes.
     ~WorkerPool();
@@ -90,7 +97,8 @@ private:
 
     void HandOut();
     bool Start(Worker& worker);
-    [[noreturn]] void ServeInChild(int nSocket, pid_t nParent);
+    [[noreturn]] void ServeInChild(const Worker& worker, int nSocket, pid_t nParent);
+    volatile bool* OutOfMemory(const Worker& worker) const;
     bool Send(const Worker& worker, std::size_t nJob) const;
     void Wait();
     void Receive(Worker& worker);
@@ -103,6 +111,7 @@ private:
     Client m_client;
     const Interrupt& m_interrupt;
     std::vector<Worker> m_vecWorker;
+    void* m_pShared = nullptr;  ///< memory that the processes see, too: a flag for each worker
     std::optional<std::size_t> m_jobWaiting;  ///< taken from the client, not yet given out
     bool m_bNoMore = false;
     std::optional<double> m_interrupted;  ///< when

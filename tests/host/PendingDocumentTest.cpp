@@ -11,6 +11,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include "files/Descriptor.h"
+#include "files/FilePlace.h"
 #include "support/TempFolder.h"
 
 namespace fs = std::filesystem;
@@ -26,6 +28,25 @@ protected:
     static void WriteTo(const PendingDocument& document, const std::string& strText)
     {
         std::ofstream(document.Path()) << strText;
+    }
+
+    FilePlace PlaceOf(const std::string& strName) const
+    {
+        FilePlace place;
+        EXPECT_EQ(FindFolder(m_folder.Path(), Missing::Fails, place.folder), 0);
+        place.strName = strName;
+        return place;
+    }
+
+    /// Whether the path leads to the same device or pipe as the other.
+    static void ExpectSame(const std::string& strPath, const std::string& strOther)
+    {
+        struct stat info = {};
+        struct stat other = {};
+        ASSERT_EQ(stat(strPath.c_str(), &info), 0) << strPath;
+        ASSERT_EQ(stat(strOther.c_str(), &other), 0) << strOther;
+        EXPECT_EQ(info.st_dev, other.st_dev);
+        EXPECT_EQ(info.st_ino, other.st_ino);
     }
 
     mode_t ModeOf(const std::string& strName) const
@@ -50,13 +71,63 @@ TEST_F(PendingDocumentTest, AppearsWhenItIsKept)
     EXPECT_EQ(m_folder.Read("a.mok"), "new");
 }
 
-TEST_F(PendingDocumentTest, TemporaryNameIsADocumentsNameInTheSameFolder)
+TEST_F(PendingDocumentTest, PathForTheLibraryIsADocumentsAndLeadsToTheFileAlone)
 {
     PendingDocument document(m_folder.Path("a.MOK"));
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(fs::path(document.Path()).parent_path(), m_folder.Path());
+    EXPECT_TRUE(document.Path().starts_with("/proc/self/fd/")) << document.Path();
     EXPECT_TRUE(document.Path().ends_with(".mok"));
-    EXPECT_EQ(ModeOf(fs::path(document.Path()).filename()), 0600U) << "the owner's alone";
+    struct stat opened = {};
+    struct stat named = {};
+    ASSERT_EQ(fstat(document.Get(), &opened), 0);
+    ASSERT_EQ(stat(document.Path().c_str(), &named), 0);
+    EXPECT_EQ(opened.st_ino, named.st_ino);
+    EXPECT_EQ(opened.st_mode & 0777, 0600U) << "the owner's alone";
+}
+
+TEST_F(PendingDocumentTest, FolderThatIsMovedAwayMeanwhileKeepsTheDocument)
+{
+    m_folder.MakeFolder("sub");
+    PendingDocument document(m_folder.Path("sub/a.mok"));
+    EXPECT_EQ(document.Open(), "");
+    fs::rename(m_folder.Path("sub"), m_folder.Path("moved"));
+    m_folder.MakeFolder("other");
+    fs::create_symlink("other", m_folder.Path("sub"));
+    WriteTo(document, "new");
+    EXPECT_EQ(document.Keep(), "");
+    EXPECT_EQ(m_folder.Read("moved/a.mok"), "new");
+    EXPECT_FALSE(m_folder.Has("other/a.mok"));
+}
+
+TEST_F(PendingDocumentTest, FileThatIsMadeMeanwhileStaysIfItIsWanted)
+{
+    PendingDocument document(m_folder.Path("a.mok"));
+    EXPECT_EQ(document.Open(), "");
+    WriteTo(document, "new");
+    m_folder.Write("a.mok", "another's");
+    EXPECT_EQ(document.Keep(Existing::Kept), "File exists");
+    EXPECT_EQ(m_folder.Read("a.mok"), "another's");
+}
+
+TEST_F(PendingDocumentTest, AtAPlaceALinkIsReplacedItself)
+{
+    m_folder.Write("real.mok", "old");
+    fs::create_symlink("real.mok", m_folder.Path("a.mok"));
+    PendingDocument document(PlaceOf("a.mok"));
+    EXPECT_EQ(document.Open(), "");
+    WriteTo(document, "new");
+    EXPECT_EQ(document.Keep(), "");
+    EXPECT_FALSE(fs::is_symlink(m_folder.Path("a.mok")));
+    EXPECT_EQ(m_folder.Read("a.mok"), "new");
+    EXPECT_EQ(m_folder.Read("real.mok"), "old");
+}
+
+TEST_F(PendingDocumentTest, AtAPlaceAPipeIsRefused)
+{
+    ASSERT_EQ(mkfifo(m_folder.Path("a.mok").c_str(), 0600), 0);
+    PendingDocument document(PlaceOf("a.mok"));
+    EXPECT_EQ(document.Open(), "File exists");
+    EXPECT_EQ(m_folder.Names(), Names{"a.mok"});
 }
 
 TEST_F(PendingDocumentTest, LeavesNothingIfItIsNotKept)
@@ -97,7 +168,6 @@ TEST_F(PendingDocumentTest, LinkStaysAndItsTargetIsReplaced)
     fs::create_symlink("sub/real.mok", m_folder.Path("a.mok"));
     PendingDocument document(m_folder.Path("a.mok"));
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(fs::path(document.Path()).parent_path(), m_folder.Path("sub"));
     WriteTo(document, "new");
     EXPECT_EQ(document.Keep(), "");
     EXPECT_TRUE(fs::is_symlink(m_folder.Path("a.mok")));
@@ -127,7 +197,8 @@ TEST_F(PendingDocumentTest, DeviceIsWrittenToItself)
 {
     PendingDocument document("/dev/null");
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(document.Path(), "/dev/null");
+    EXPECT_TRUE(document.IsDevice());
+    ExpectSame(document.Path(), "/dev/null");
     EXPECT_EQ(document.Keep(), "");
     EXPECT_EQ(document.Size(), 0U);
 }
@@ -137,7 +208,7 @@ TEST_F(PendingDocumentTest, LinkToADeviceIsWrittenThrough)
     fs::create_symlink("/dev/null", m_folder.Path("a.mok"));
     PendingDocument document(m_folder.Path("a.mok"));
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(document.Path(), m_folder.Path("a.mok"));
+    ExpectSame(document.Path(), "/dev/null");
     EXPECT_EQ(document.Keep(), "");
     EXPECT_EQ(m_folder.Names(), Names{"a.mok"});
 }
@@ -149,7 +220,7 @@ TEST_F(PendingDocumentTest, OpenPipeOfTheProcessIsWrittenThroughItsLink)
     const std::string strPath = "/dev/fd/" + std::to_string(pipe[1]);
     PendingDocument document(strPath);
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(document.Path(), strPath);
+    ExpectSame(document.Path(), strPath);
     close(pipe[0]);
     close(pipe[1]);
 }
@@ -157,9 +228,18 @@ TEST_F(PendingDocumentTest, OpenPipeOfTheProcessIsWrittenThroughItsLink)
 TEST_F(PendingDocumentTest, PipeIsWrittenToItself)
 {
     ASSERT_EQ(mkfifo(m_folder.Path("a.mok").c_str(), 0600), 0);
+    const Descriptor reader(open(m_folder.Path("a.mok").c_str(), O_RDONLY | O_NONBLOCK));
     PendingDocument document(m_folder.Path("a.mok"));
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(document.Path(), m_folder.Path("a.mok"));
+    ExpectSame(document.Path(), m_folder.Path("a.mok"));
+    EXPECT_EQ(fcntl(document.Get(), F_GETFL) & O_NONBLOCK, 0) << "waits for its reader";
+}
+
+TEST_F(PendingDocumentTest, PipeThatNobodyReadsIsRefused)
+{
+    ASSERT_EQ(mkfifo(m_folder.Path("a.mok").c_str(), 0600), 0);
+    PendingDocument document(m_folder.Path("a.mok"));
+    EXPECT_EQ(document.Open(), "No such device or address");
 }
 
 TEST_F(PendingDocumentTest, FolderIsRefused)
@@ -173,7 +253,7 @@ TEST_F(PendingDocumentTest, MissingFolderIsLeftToTheLibrary)
 {
     PendingDocument document(m_folder.Path("absent/a.mok"));
     EXPECT_EQ(document.Open(), "");
-    EXPECT_EQ(fs::path(document.Path()).parent_path(), m_folder.Path("absent"));
+    EXPECT_FALSE(fs::exists(fs::path(document.Path()).parent_path()));
     EXPECT_EQ(document.Keep(), "");
     EXPECT_FALSE(m_folder.Has("absent"));
 }

@@ -98,6 +98,36 @@ TEST(WholeFileTest, FileThatCannotBeWrittenToItsEndLeavesWhatWasThere)
     EXPECT_EQ(NamesIn(folder), std::vector<std::string>{"a.csv"});
 }
 
+TEST(WholeFileTest, PipeThatNobodyReadsIsRefused)
+{
+    const TempFolder folder;
+    ASSERT_EQ(mkfifo(folder.Path("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(WriteWhole(folder.Path("pipe"), "x"), "No such device or address");
+}
+
+TEST(WholeFileTest, ExistingFileThatIsToStayStays)
+{
+    const TempFolder folder;
+    folder.Write("a.csv", "old");
+    EXPECT_EQ(WriteWhole(folder.Path("a.csv"), "new", Existing::Kept), "File exists");
+    EXPECT_EQ(folder.Read("a.csv"), "old");
+    EXPECT_EQ(NamesIn(folder), std::vector<std::string>{"a.csv"});
+}
+
+TEST(WholeFileTest, AtAPlaceTheFileGetsTheRightsThatAreGiven)
+{
+    const TempFolder folder;
+    folder.Write("a.html", "old");
+    FilePlace place;
+    ASSERT_EQ(FindFolder(folder.Path(), Missing::Fails, place.folder), 0);
+    place.strName = "a.html";
+    EXPECT_EQ(WriteWhole(place, "new", 0600), "");
+    EXPECT_EQ(folder.Read("a.html"), "new");
+    struct stat status = {};
+    ASSERT_EQ(stat(folder.Path("a.html").c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
 TEST(WholeFileTest, MissingFolderIsTold)
 {
     const TempFolder folder;

@@ -271,7 +271,8 @@ for ((n = 0; n < 100; n++)); do [ -e "/proc/$child" ] || break; sleep 0.05; done
 [ ! -e "/proc/$child" ] || fail "workers end with their parent"
 truncate -s -7 killed/report.json
 mkdir -p killed/1/1
-: >killed/1/1/.kzekamok-AbCdEf.mok
+mkdir -m 700 killed/1/1/.kzekamok-0123456789abcdef
+: >killed/1/1/.kzekamok-0123456789abcdef/unfinished
 run batch many -o killed -j 2 "${filer[@]}"
 expect_status 1 "on after a kill"
 expect_whole killed/report.json $many "on after a kill, with a torn line"

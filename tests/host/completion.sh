@@ -73,6 +73,9 @@ expect_offered 'kzekamok convert a.csv --family f' 'finance'
 expect_offered 'kzekamok completion ' 'bash|zsh'
 expect_offered 'kzekamok check --limit ' ''
 expect_offered 'kzekamok convert --nozeisha-nm ' ''
+expect_offered 'kzekamok batch --me' '--memory'
+expect_offered 'kzekamok batch --memory ' ''
+expect_offered 'kzekamok batch --sh' '--share-report'
 
 # Options
 expect_offered 'kzekamok convert inbox/a.csv --teishutsu-d' '--teishutsu-date|--teishutsu-day'

@@ -2,7 +2,13 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <filesystem>
+
+#include "HtmlAssets.h"
+#include "files/Descriptor.h"
+#include "files/FilePlace.h"
 #include "support/TempFolder.h"
 
 namespace host {
@@ -106,13 +112,56 @@ TEST(BatchPageTest, TableIsCutAndSaysSo)
     EXPECT_THAT(strHtml, HasSubstr("<b>20001</b>files"));
 }
 
+TEST(BatchPageTest, PolicyLetsNothingThroughButTheStyleAndTheScriptOfThePage)
+{
+    BatchPage page(2);
+    page.Add(Line("a.csv", "converted", 0));
+    page.Add(Line("b.csv", "refused", 1));
+    const std::string strHtml = page.Html();
+    EXPECT_THAT(strHtml, HasSubstr("content=\"default-src 'none'; style-src 'sha256-" +
+                                   std::string(BATCH_STYLE_DIGEST) + "'; script-src 'sha256-" +
+                                   std::string(BATCH_SCRIPT_DIGEST) +
+                                   "'; base-uri 'none'; form-action 'none'\""));
+    EXPECT_THAT(strHtml, HasSubstr("<style>" + std::string(BATCH_STYLE) + "</style>"));
+    EXPECT_THAT(strHtml, HasSubstr("<script>" + std::string(BATCH_SCRIPT) + "</script>"));
+    EXPECT_THAT(strHtml, Not(HasSubstr("unsafe")));
+    EXPECT_THAT(strHtml, Not(HasSubstr(" style="))) << "which the policy lets no more through";
+}
+
+TEST(BatchPageTest, BarShowsTheShareOfEachResult)
+{
+    BatchPage page(3);
+    page.Add(Line("a.csv", "converted", 0));
+    page.Add(Line("b.csv", "refused", 1));
+    page.Add(Line("c.csv", "refused", 1));
+    EXPECT_THAT(page.Html(), HasSubstr(R"(viewBox="0 0 3 1"><rect class="good" x="0" width="1" )"
+                                       R"(height="1"/><rect class="bad" x="1" width="2" )"
+                                       R"(height="1"/></svg>)"));
+}
+
+TEST(BatchPageTest, LineThatNestsTooDeepIsLeftOut)
+{
+    BatchPage page(1);
+    std::string strLine = Line("a.csv", "refused", 1);
+    strLine.insert(1, "\"x\":" + std::string(200'000, '[') + std::string(200'000, ']') + ",");
+    page.Add(strLine);
+    EXPECT_THAT(page.Html(), Not(HasSubstr("data-outcome=\"")));
+}
+
 TEST(BatchPageTest, OwnPageIsRecognised)
 {
     const TempFolder folder;
-    const std::string strOwn = folder.Write("own.html", BatchPage(0).Html());
-    EXPECT_TRUE(BatchPage::IsOwnOrAbsent(strOwn));
-    EXPECT_TRUE(BatchPage::IsOwnOrAbsent(folder.Path("absent.html")));
-    EXPECT_FALSE(BatchPage::IsOwnOrAbsent(folder.Write("other.html", "<html>mine</html>")));
+    folder.Write("own.html", BatchPage(0).Html());
+    folder.Write("other.html", "<html>mine</html>");
+    ASSERT_EQ(mkfifo(folder.Path("pipe.html").c_str(), 0600), 0);
+    std::filesystem::create_symlink("own.html", folder.Path("link.html"));
+    Descriptor opened;
+    ASSERT_EQ(FindFolder(folder.Path(), Missing::Fails, opened), 0);
+    EXPECT_EQ(BatchPage::ProblemOf(opened.Get(), "own.html"), "");
+    EXPECT_EQ(BatchPage::ProblemOf(opened.Get(), "absent.html"), "");
+    for (const char* szName : {"other.html", "pipe.html", "link.html"})
+        EXPECT_EQ(BatchPage::ProblemOf(opened.Get(), szName), "it wasn't written by a batch")
+            << szName;
 }
 
 }  // namespace

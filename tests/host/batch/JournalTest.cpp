@@ -3,7 +3,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "support/FileSizeLimit.h"
@@ -40,7 +42,19 @@ bool None(const EarlierResult& /*result*/)
 class JournalTest : public testing::Test
 {
 protected:
-    std::string Path() const { return folder.Path("report.json"); }
+    FilePlace Place() const
+    {
+        FilePlace place;
+        EXPECT_EQ(FindFolder(folder.Path(), Missing::Fails, place.folder), 0);
+        place.strName = "report.json";
+        return place;
+    }
+    /// What Load says about a report of these bytes.
+    std::string LoadOf(std::string_view strBytes) const
+    {
+        folder.Write("report.json", strBytes);
+        return Journal(Place()).Load();
+    }
     std::string Line(const std::string& strKey) const { return JournalLine(REPORT, Entry(strKey)); }
 
     TempFolder folder;
@@ -104,8 +118,8 @@ TEST(JournalLineTest, OtherTextsAreNoLines)
 
 TEST_F(JournalTest, MissingFileHoldsNoResults)
 {
-    Journal journal(Path());
-    EXPECT_TRUE(journal.Load());
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
     EXPECT_THAT(journal.Earlier(), IsEmpty());
 }
 
@@ -114,8 +128,8 @@ TEST_F(JournalTest, LastLineOfAFileCounts)
     JournalEntry later = Entry("/a");
     later.strOptions = "later";
     folder.Write("report.json", Line("/a") + Line("/b") + JournalLine(REPORT, later));
-    Journal journal(Path());
-    EXPECT_TRUE(journal.Load());
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
     EXPECT_THAT(journal.Earlier(), SizeIs(2));
     EXPECT_EQ(journal.Earlier().at("/a").entry.strOptions, "later");
 }
@@ -124,13 +138,13 @@ TEST_F(JournalTest, TornLastLineIsPassedOverAndGoesWithTheNextBeginning)
 {
     const std::string strTorn = Line("/b");
     folder.Write("report.json", Line("/a") + strTorn.substr(0, strTorn.size() - 1));
-    Journal journal(Path());
-    EXPECT_TRUE(journal.Load());
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
     EXPECT_THAT(journal.Earlier(), SizeIs(1));
     EXPECT_EQ(journal.Begin(All), "");
     EXPECT_EQ(journal.Append(Line("/c")), "");
-    Journal again(Path());
-    EXPECT_TRUE(again.Load());
+    Journal again(Place());
+    EXPECT_EQ(again.Load(), "");
     EXPECT_THAT(again.Earlier(), SizeIs(2));
     EXPECT_TRUE(again.Earlier().contains("/a") && again.Earlier().contains("/c"));
 }
@@ -139,8 +153,8 @@ TEST_F(JournalTest, TornFirstLineIsNobodyElses)
 {
     for (const std::size_t nBytes : {std::size_t{1}, std::size_t{5}, std::size_t{60}}) {
         folder.Write("report.json", Line("/a").substr(0, nBytes));
-        Journal journal(Path());
-        EXPECT_TRUE(journal.Load()) << nBytes;
+        Journal journal(Place());
+        EXPECT_EQ(journal.Load(), "") << nBytes;
         EXPECT_THAT(journal.Earlier(), IsEmpty());
     }
 }
@@ -148,15 +162,113 @@ TEST_F(JournalTest, TornFirstLineIsNobodyElses)
 TEST_F(JournalTest, FileOfAnotherKindIsTold)
 {
     for (const char* szText : {"{\"tests\": []}\n", "hello", "\n", "{\"file\":\"x\"}\n"}) {
-        folder.Write("report.json", szText);
-        EXPECT_FALSE(Journal(Path()).Load()) << szText;
+        EXPECT_EQ(LoadOf(szText), "it wasn't written by a batch") << szText;
     }
 }
 
 TEST_F(JournalTest, FolderInItsPlaceIsTold)
 {
     folder.MakeFolder("report.json");
-    EXPECT_FALSE(Journal(Path()).Load());
+    EXPECT_EQ(Journal(Place()).Load(), "it is no regular file");
+}
+
+TEST_F(JournalTest, PipeInItsPlaceIsToldAtOnce)
+{
+    ASSERT_EQ(mkfifo(folder.Path("report.json").c_str(), 0600), 0);
+    EXPECT_EQ(Journal(Place()).Load(), "it is no regular file");
+}
+
+TEST_F(JournalTest, LinkInItsPlaceIsToldAndNotFollowed)
+{
+    folder.Write("elsewhere.json", Line("/a"));
+    std::filesystem::create_symlink("elsewhere.json", folder.Path("report.json"));
+    EXPECT_EQ(Journal(Place()).Load(), "it is no regular file");
+}
+
+TEST_F(JournalTest, ReportOfAnotherUserIsTold)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make another user's file";
+    folder.Write("report.json", Line("/a"));
+    ASSERT_EQ(chown(folder.Path("report.json").c_str(), 65534, 65534), 0);
+    EXPECT_EQ(Journal(Place()).Load(), "it belongs to another user");
+}
+
+TEST_F(JournalTest, LineThatIsTooLongIsTold)
+{
+    std::string strLong = Line("/" + std::string(Journal::LINE_LONGEST, 'a'));
+    EXPECT_EQ(LoadOf(Line("/b") + strLong), "a line in it is longer than 16 MiB");
+    EXPECT_EQ(LoadOf(std::string(Journal::LINE_LONGEST + 1, '{')),
+              "a line in it is longer than 16 MiB");
+    strLong = Line("/") + std::string(1000, '{') + "\n";
+    EXPECT_EQ(LoadOf(strLong), "");
+}
+
+TEST_F(JournalTest, ReportThatIsTooLargeIsToldWithoutBeingRead)
+{
+    folder.Write("report.json", Line("/a"));
+    std::filesystem::resize_file(folder.Path("report.json"), Journal::BYTES_MOST + 1);
+    EXPECT_EQ(Journal(Place()).Load(), "it is larger than 4 GiB");
+}
+
+TEST_F(JournalTest, LinesThatCannotBeReadAreCounted)
+{
+    folder.Write("report.json", Line("/a") + "nonsense\n" + std::string(200'000, '[') + "\n" +
+                                    Line("/b") + "torn");
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
+    EXPECT_THAT(journal.Earlier(), SizeIs(2));
+    EXPECT_EQ(journal.BadLines(), 2U);
+}
+
+TEST_F(JournalTest, ResultsThatNameADocumentOutsideAreCountedAndLeftOut)
+{
+    std::string strLines;
+    for (const char* szName :
+         {"../a.mok", "/etc/a.mok", "b/../../a.mok", "./a.mok", "a//b.mok", "a/", "..", "passwd"}) {
+        JournalEntry entry = Entry(std::string("/x/") + szName);
+        entry.strDocument = szName;
+        strLines += JournalLine(REPORT, entry);
+    }
+    folder.Write("report.json", strLines + Line("/good"));
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
+    EXPECT_EQ(journal.ForeignLines(), 8U);
+    EXPECT_THAT(journal.Earlier(), SizeIs(1));
+    EXPECT_TRUE(journal.Earlier().contains("/good"));
+}
+
+TEST_F(JournalTest, ReportIsItsOwnersAloneUnlessAskedOtherwise)
+{
+    for (const mode_t mode : {mode_t{0600}, mode_t{0640}}) {
+        Journal journal(Place(), mode);
+        EXPECT_EQ(journal.Begin(None), "");
+        struct stat info = {};
+        ASSERT_EQ(stat(folder.Path("report.json").c_str(), &info), 0);
+        EXPECT_EQ(info.st_mode & 0777, mode);
+    }
+}
+
+TEST_F(JournalTest, ReportThatIsReplacedMeanwhileIsNoticedAndNotRead)
+{
+    Journal journal(Place());
+    EXPECT_EQ(journal.Begin(None), "");
+    EXPECT_EQ(journal.Append(Line("/a")), "");
+    EXPECT_TRUE(journal.IsInPlace());
+    std::filesystem::remove(folder.Path("report.json"));
+    folder.Write("report.json", Line("/forged"));
+    EXPECT_FALSE(journal.IsInPlace());
+    std::string strRead;
+    EXPECT_EQ(journal.Read([&](const std::string& strLine) { strRead += strLine + "\n"; }), "");
+    EXPECT_EQ(strRead, Line("/a"));
+}
+
+TEST_F(JournalTest, LineThatTheNextRunWouldNotReadIsNotWritten)
+{
+    Journal journal(Place());
+    EXPECT_EQ(journal.Begin(None), "");
+    EXPECT_EQ(journal.Append(Line(std::string(Journal::LINE_LONGEST, 'a'))), "File too large");
+    EXPECT_EQ(folder.Read("report.json"), "");
 }
 
 TEST_F(JournalTest, LinesThatStayKeepTheirOrderAndBytes)
@@ -164,8 +276,8 @@ TEST_F(JournalTest, LinesThatStayKeepTheirOrderAndBytes)
     const std::string strFirst = Line("/z");
     const std::string strLast = Line("/a");
     folder.Write("report.json", strFirst + Line("/gone") + strLast);
-    Journal journal(Path());
-    EXPECT_TRUE(journal.Load());
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
     EXPECT_EQ(
         journal.Begin([](const EarlierResult& result) { return result.entry.strKey != "/gone"; }),
         "");
@@ -173,24 +285,44 @@ TEST_F(JournalTest, LinesThatStayKeepTheirOrderAndBytes)
     EXPECT_THAT(folder.Names(), SizeIs(1));
 }
 
-TEST_F(JournalTest, FolderThatDoesNotExistGivesTheReason)
+TEST_F(JournalTest, FolderThatIsRemovedGivesTheReason)
 {
-    EXPECT_EQ(Journal(folder.Path("absent/report.json")).Begin(None), "No such file or directory");
+    const std::string strFolder = folder.MakeFolder("gone");
+    FilePlace place;
+    ASSERT_EQ(FindFolder(strFolder, Missing::Fails, place.folder), 0);
+    place.strName = "report.json";
+    std::filesystem::remove(strFolder);
+    EXPECT_EQ(Journal(std::move(place)).Begin(None), "No such file or directory");
 }
 
 TEST_F(JournalTest, BeginningThatFailsLeavesTheFileAsItWas)
 {
     folder.Write("report.json", Line("/a"));
-    folder.MakeFolder("report.json.new");
-    Journal journal(Path());
-    EXPECT_TRUE(journal.Load());
-    EXPECT_EQ(journal.Begin(None), "Is a directory");
+    Journal journal(Place());
+    EXPECT_EQ(journal.Load(), "");
+    {
+        const FileSizeLimit limit(10);
+        EXPECT_EQ(journal.Begin(All), "File too large");
+    }
     EXPECT_EQ(folder.Read("report.json"), Line("/a"));
+    EXPECT_THAT(folder.Names(), SizeIs(1));
+}
+
+TEST_F(JournalTest, LinkBesideTheReportIsNotWrittenThrough)
+{
+    folder.Write("victim", "precious");
+    std::filesystem::create_symlink("victim", folder.Path("report.json.new"));
+    Journal journal(Place());
+    EXPECT_EQ(journal.Begin(None), "");
+    EXPECT_EQ(journal.Append(Line("/a")), "");
+    EXPECT_EQ(folder.Read("victim"), "precious");
+    EXPECT_EQ(folder.Read("report.json"), Line("/a"));
+    EXPECT_FALSE(std::filesystem::is_symlink(folder.Path("report.json")));
 }
 
 TEST_F(JournalTest, LineThatDoesNotFitIsTakenBack)
 {
-    Journal journal(Path());
+    Journal journal(Place());
     EXPECT_EQ(journal.Begin(None), "");
     EXPECT_EQ(journal.Append(Line("/a")), "");
     {

@@ -6,7 +6,9 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <cstdint>
 #include <map>
+#include <new>
 #include <stdexcept>
 
 namespace host {
@@ -17,6 +19,17 @@ using testing::SizeIs;
 constexpr std::size_t HANGING = 5;
 constexpr std::size_t DYING = 7;
 constexpr std::size_t THROWING = 9;
+constexpr std::size_t GREEDY = 11;
+constexpr std::size_t MEBIBYTES = 1024 * 1024;
+
+// A sanitizer ends the process itself where there is no memory.
+#if defined(__SANITIZE_ADDRESS__)
+constexpr bool HAS_SANITIZER = true;
+#elif defined(__has_feature)
+constexpr bool HAS_SANITIZER = __has_feature(address_sanitizer);
+#else
+constexpr bool HAS_SANITIZER = false;
+#endif
 
 /// Answers with the number and the process, but for the jobs above.
 class Numbers final : public Work
@@ -33,11 +46,23 @@ public:
             std::raise(SIGKILL);
         if (nJob == THROWING)
             throw std::runtime_error("no answer");
+        if (nJob == GREEDY)
+            return WithoutMemory();
         return std::to_string(nJob) + ":" + std::to_string(getpid()) +
                std::string(m_nAnswerBytes, 'x');
     }
 
 private:
+    /// Swallows that there is no memory, as parts of the library do.
+    static std::string WithoutMemory()
+    {
+        try {
+            return std::string(64 * MEBIBYTES, 'x').substr(0, 1);
+        } catch (const std::bad_alloc&) {
+            return "none";
+        }
+    }
+
     std::size_t m_nAnswerBytes;
 };
 
@@ -48,7 +73,8 @@ protected:
              std::size_t nFirst,
              std::size_t nEnd,
              double dTimeout = 0,
-             std::size_t nAnswerBytes = 0)
+             std::size_t nAnswerBytes = 0,
+             std::uint64_t nMemory = 0)
     {
         std::size_t nNext = nFirst;
         const WorkerPool::Client client = {
@@ -65,7 +91,7 @@ protected:
             [] {},
         };
         const Interrupt interrupt;
-        WorkerPool({nWorkers, dTimeout}, client, interrupt).Run();
+        WorkerPool({nWorkers, dTimeout, nMemory}, client, interrupt).Run();
     }
 
     std::map<std::size_t, JobResult> mapResult;
@@ -152,6 +178,33 @@ TEST_F(WorkerPoolTest, SecondInterruptCancelsJobsAtWork)
     waitpid(nSender, nullptr, 0);
     ASSERT_THAT(mapResult, SizeIs(1));
     EXPECT_EQ(mapResult.at(HANGING).eEnd, JobEnd::Cancelled);
+}
+
+TEST_F(WorkerPoolTest, JobThatNeedsTooMuchMemoryIsToldAndTheOthersAreDone)
+{
+    if (HAS_SANITIZER)
+        GTEST_SKIP() << "sanitizers count memory by themselves";
+    Run(1, 10, 14, 0, 0, 32 * MEBIBYTES);
+    EXPECT_THAT(mapResult, SizeIs(4));
+    for (const auto& [nJob, result] : mapResult) {
+        EXPECT_EQ(result.eEnd, JobEnd::Answered) << nJob;
+        EXPECT_EQ(result.bOutOfMemory, nJob == GREEDY) << nJob;
+    }
+    EXPECT_EQ(mapResult.at(GREEDY).strAnswer, "none");
+    // Two processes: the one without memory ends behind its job.
+    const auto process = [this](std::size_t nJob) {
+        const std::string& strAnswer = mapResult.at(nJob).strAnswer;
+        return strAnswer.substr(strAnswer.find(':'));
+    };
+    EXPECT_NE(process(10), process(12));
+    EXPECT_EQ(process(12), process(13));
+}
+
+TEST_F(WorkerPoolTest, WithoutALimitAJobTakesWhatItNeeds)
+{
+    Run(1, GREEDY, GREEDY + 1);
+    EXPECT_EQ(mapResult.at(GREEDY).strAnswer, "x");
+    EXPECT_FALSE(mapResult.at(GREEDY).bOutOfMemory);
 }
 
 }  // namespace
