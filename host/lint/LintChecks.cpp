@@ -299,9 +299,11 @@ bool Exists(const std::string& strWestern)
 /// "20190430" exists.
 bool IsDate(const std::string& strToken)
 {
-    return strToken.size() == DATE_LENGTH &&
-           std::ranges::all_of(strToken, [](char c) { return '0' <= c && c <= '9'; }) &&
-           Exists(DateLiteral::WithSlashes(strToken));
+    if (strToken.size() != DATE_LENGTH ||
+        !std::ranges::all_of(strToken, [](char c) { return '0' <= c && c <= '9'; }))
+        return false;
+    const auto strDate = DateLiteral::WithSlashes(strToken);
+    return strDate && Exists(*strDate);
 }
 
 /// Month and day exist in every year.
