@@ -44,13 +44,19 @@ void Quietly(Step step)
 
 void KZCDebugDump::InitDebugDump()
 {
-    if (std::getenv(SWITCH_VARIABLE) == nullptr)
+    // In a set-user-id program the environment is its caller's, who must not have the program's
+    // rights write where he wants.
+    if (secure_getenv(SWITCH_VARIABLE) == nullptr)
         return;
     Quietly([] {
         m_bOutput = true;
+        m_strOutputPath.clear();
+        const std::string strHome = KZCMacOSNative::homeDirectory();
+        // Without a home the file would be made wherever the process happens to stand.
+        if (strHome.empty())
+            return;
         const std::string strName = KZCEkaCommon::Now(FILE_NAME_PATTERN, nullptr);
-        m_strOutputPath =
-            KZCMacOSNative::appendFilePath(KZCMacOSNative::homeDirectory(), strName.c_str());
+        m_strOutputPath = KZCMacOSNative::appendFilePath(strHome.c_str(), strName.c_str());
     });
 }
 
@@ -93,8 +99,8 @@ void KZCDebugDump::OutputValid(
     if (!m_bOutput)
         return;
     Quietly([&] {
-        const std::string strValue =
-            bUtf8 ? CText::OrEmpty(szValue) : KZCMacOSNative::convertUTF8fromShiftJIS(szValue);
+        const std::string strValue = bUtf8 ? std::string(CText::OrEmpty(szValue))
+                                           : ShiftJis::ToUtf8Anyway(CText::OrEmpty(szValue));
         WriteMessage(ValidHead(eMessage, lRecord, lColumn) + strValue + "\n\n", true);
     });
 }
@@ -111,13 +117,10 @@ void KZCDebugDump::OutputValid(KZCEkaMessage_t eMessage, long lRecord, long lCol
 
 bool KZCDebugDump::WriteMessage(const std::string& strText, bool bUtf8)
 {
-    // The file is UTF-8 throughout: a text that can't be read in its encoding adds nothing.
-    std::string strUtf8;
-    if (!bUtf8)
-        strUtf8 = KZCMacOSNative::convertUTF8fromShiftJIS(strText.c_str());
-    else if (Utf8::Decode(strText))
-        strUtf8 = strText;
-    return KZCMacOSNative::appendToFile(m_strOutputPath.c_str(), strUtf8);
+    // The file is UTF-8 throughout. What can't be read in its encoding, such as the half of a
+    // character at a cut, must not take the rest of the entry with it.
+    return KZCMacOSNative::appendToLog(
+        m_strOutputPath.c_str(), bUtf8 ? Utf8::Repair(strText) : ShiftJis::ToUtf8Anyway(strText));
 }
 
 std::string KZCDebugDump::GetBaseMessage1(const char* szFunction)

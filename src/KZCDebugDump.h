@@ -9,8 +9,9 @@
 class KZCDebugDump
 {
 public:
-    /// Switches the log on if KZLuviaZEKA.DebugOutput is in the environment (its value isn't read)
-    /// and takes today's file in the user's home folder. Never switches it off.
+    /// Switches the log on if KZLuviaZEKA.DebugOutput is in the environment (its value isn't read;
+    /// set-user-id programs ignore it) and takes today's file in the user's home folder. Nothing is
+    /// written without such a folder. Never switches it off.
     static void InitDebugDump();
 
     static bool IsOn() { return m_bOutput; }
@@ -35,7 +36,8 @@ public:
         KZCEkaMessage_t eMessage, long lRecord, long lColumn, const char* szValue, bool bUtf8);
     static void OutputValid(KZCEkaMessage_t eMessage, long lRecord, long lColumn, long lValue);
 
-    /// Appends the text to the log file. \return true if the file could be opened or made.
+    /// Appends the text to the log file, U+FFFD for what can't be decoded.
+    /// \return true if the file could be opened or made.
     static bool WriteMessage(const std::string& strText, bool bUtf8);
 
     static std::string GetBaseMessage1(const char* szFunction);

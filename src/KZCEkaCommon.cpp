@@ -10,6 +10,7 @@
 #include "CText.h"
 #include "Fault.h"
 #include "KZCMacOSNative.h"
+#include "LostText.h"
 #include "ShiftJis.h"
 
 namespace {
@@ -97,6 +98,16 @@ private:
     bool m_bSearched = false;
 };
 
+/// What the step gives, or the empty text if there is no memory for it.
+template <class Step>
+std::string TextOrLost(Step step)
+try {
+    return step();
+} catch (...) {
+    LostText::Note();
+    return {};
+}
+
 /// Bytes without which a text is its own escaped form: no block begins without one of them.
 constexpr bool IsSpecial(char cByte)
 {
@@ -133,53 +144,8 @@ void SpecialEncodingWork(std::string& strOut, std::string_view strText)
     strOut += strText.substr(nStart);
 }
 
-}  // namespace
-
-std::string KZCEkaCommon::Now(const char* szDatePattern, const char* szTimePattern)
-{
-    return KZCMacOSNative::dateTimeNow(szDatePattern, szTimePattern);
-}
-
-std::string KZCEkaCommon::StringTrim(const char* szText)
-{
-    return StringTrim(std::string(CText::OrEmpty(szText)));
-}
-
-std::string KZCEkaCommon::StringTrim(const std::string& strText)
-{
-    return KZCMacOSNative::stringByTrimming(strText, !m_bDuringCsvCheck);
-}
-
-std::u16string KZCEkaCommon::MtoWString(const char* szText)
-{
-    if (szText == nullptr)
-        return {};
-    if (m_bDuringCsvCheck)
-        return KZCMacOSNative::convertUTF16fromShiftJIS(szText);
-    auto strUnits = Utf8::Decode(szText);
-    if (!strUnits)
-        RaiseFault("KZCEkaCommon::MtoWString", nullptr);
-    return *std::move(strUnits);
-}
-
-std::u16string KZCEkaCommon::ConvertSPChar(const char* szText)
-{
-    return m_execMode == EXEC_MODE_ZEKA ? ConvertSPCharZeka(szText) : ConvertSPCharFinance(szText);
-}
-
-std::u16string KZCEkaCommon::ConvertSPCharZeka(const char* szText)
-{
-    std::u16string strUnits = MtoWString(szText);
-    std::ranges::transform(strUnits, strUnits.begin(), JisUnit);
-    return strUnits;
-}
-
-std::u16string KZCEkaCommon::ConvertSPCharFinance(const char* szText)
-{
-    return MtoWString(szText);
-}
-
-std::string KZCEkaCommon::SpecialEncoding(const std::string& strText)
+/// SpecialEncoding. Throws if memory runs out.
+std::string Escape(const std::string& strText)
 {
     if (std::ranges::none_of(strText, IsSpecial))
         return strText;
@@ -203,6 +169,69 @@ std::string KZCEkaCommon::SpecialEncoding(const std::string& strText)
     return strOut;
 }
 
+}  // namespace
+
+std::string KZCEkaCommon::Now(const char* szDatePattern, const char* szTimePattern)
+{
+    return KZCMacOSNative::dateTimeNow(szDatePattern, szTimePattern);
+}
+
+std::string KZCEkaCommon::StringTrim(const char* szText)
+{
+    return TextOrLost([szText] {
+        return KZCMacOSNative::stringByTrimming(CText::OrEmpty(szText), !m_bDuringCsvCheck);
+    });
+}
+
+std::string KZCEkaCommon::StringTrim(const std::string& strText)
+{
+    return TextOrLost(
+        [&strText] { return KZCMacOSNative::stringByTrimming(strText, !m_bDuringCsvCheck); });
+}
+
+std::u16string KZCEkaCommon::MtoWString(const char* szText)
+{
+    if (szText == nullptr)
+        return {};
+    try {
+        if (m_bDuringCsvCheck)
+            return KZCMacOSNative::convertUTF16fromShiftJIS(szText);
+        auto strUnits = Utf8::Decode(szText);
+        if (!strUnits)
+            throw FAULT;
+        return *std::move(strUnits);
+    } catch (...) {
+        RaiseFault("KZCEkaCommon::MtoWString", nullptr);
+    }
+}
+
+std::u16string KZCEkaCommon::ConvertSPChar(const char* szText)
+{
+    try {
+        return m_execMode == EXEC_MODE_ZEKA ? ConvertSPCharZeka(szText)
+                                            : ConvertSPCharFinance(szText);
+    } catch (...) {
+        RaiseFault("KZCEkaCommon::ConvertSPChar", nullptr);
+    }
+}
+
+std::u16string KZCEkaCommon::ConvertSPCharZeka(const char* szText)
+{
+    std::u16string strUnits = MtoWString(szText);
+    std::ranges::transform(strUnits, strUnits.begin(), JisUnit);
+    return strUnits;
+}
+
+std::u16string KZCEkaCommon::ConvertSPCharFinance(const char* szText)
+{
+    return MtoWString(szText);
+}
+
+std::string KZCEkaCommon::SpecialEncoding(const std::string& strText)
+{
+    return TextOrLost([&strText] { return Escape(strText); });
+}
+
 std::string KZCEkaCommon::LoadResoucePath(unsigned short nId, const char* /*szType*/)
 {
     const auto* pFile = std::ranges::find(RESOURCE_FILES, nId, &ResourceFile::nId);
@@ -214,12 +243,14 @@ std::string KZCEkaCommon::searchProperties(const std::string& strFolder,
                                            const std::string& strFirst,
                                            const std::string& strSecond)
 {
-    std::vector<std::string> vecFiles;
-    if (!KZCMacOSNative::getFilesUnderFolder(strFolder.c_str(), vecFiles))
-        return {};
-    const auto pFile = std::ranges::find_if(vecFiles, [&](const std::string& strPath) {
-        return strPath.find(strFirst) != std::string::npos &&
-               strPath.find(strSecond) != std::string::npos;
+    return TextOrLost([&] {
+        std::vector<std::string> vecFiles;
+        if (!KZCMacOSNative::getFilesUnderFolder(strFolder.c_str(), vecFiles))
+            return std::string();
+        const auto pFile = std::ranges::find_if(vecFiles, [&](const std::string& strPath) {
+            return strPath.find(strFirst) != std::string::npos &&
+                   strPath.find(strSecond) != std::string::npos;
+        });
+        return pFile != vecFiles.end() ? *pFile : std::string();
     });
-    return pFile != vecFiles.end() ? *pFile : std::string();
 }

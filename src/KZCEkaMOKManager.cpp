@@ -11,6 +11,7 @@
 #include "KZCEkaCommon.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCValidResult.h"
+#include "LostText.h"
 
 namespace {
 
@@ -162,6 +163,7 @@ int KZCEkaMOKManager::MakeMok()
 {
     const std::string strFunction = MakeMokName();
     try {
+        LostText::Forget();
         const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
         const std::string strProcedure = HostProcedure(*table.pITData);
         if (strProcedure != table.pDefinition->GetProcId())
@@ -173,8 +175,9 @@ int KZCEkaMOKManager::MakeMok()
         m_pXDom = std::make_unique<KZCEkaXDOM>();
         if (!m_pXDom->Initialize())
             throw FAULT;
-        if (!m_pXDom->Parse(MakeDocumentText(table).c_str(), DocumentName(*table.pITData).c_str(),
-                            "UTF-8"))
+        const std::string strText = MakeDocumentText(table);
+        LostText::Check();
+        if (!m_pXDom->Parse(strText.c_str(), DocumentName(*table.pITData).c_str(), "UTF-8"))
             RaiseFault(strFunction.c_str(), "MOKファイルの読み込みに失敗。");
         const long lSize = m_pXDom->GetSerialisedSize();
         if (lSize < 0)
@@ -241,8 +244,10 @@ int KZCEkaMOKManager::StoreITValue(const char* szOperation,
                                    const std::function<int(const char*)>& store) const
 {
     try {
+        LostText::Forget();
         const std::string strValue =
             szValue != nullptr ? KZCEkaCommon::StringTrim(szValue) : std::string();
+        LostText::Check();
         return store(strValue.c_str());
     } catch (...) {
         RaiseFault(LogName(szOperation).c_str(), nullptr);
@@ -339,7 +344,10 @@ std::string KZCEkaMOKManager::DocumentName(const KZCEkaITData& /*it*/) const
 int KZCEkaMOKManager::RunStep(const char* szOperation, const std::function<int()>& step) const
 {
     try {
-        return step();
+        LostText::Forget();
+        const int nStatus = step();
+        LostText::Check();
+        return nStatus;
     } catch (...) {
         return RecordFatalError(szOperation);
     }

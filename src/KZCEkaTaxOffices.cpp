@@ -5,6 +5,7 @@
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaXDOM.h"
+#include "LostText.h"
 
 namespace {
 
@@ -33,6 +34,7 @@ void KZCEkaTaxOffices::Initialize()
         return;
     try {
         const std::string strPath = KZCEkaCommon::LoadResoucePath(TAX_OFFICES_ID, "XML_DAT");
+        LostText::Forget();
         KZCEkaXDOM dom;
         if (!dom.Initialize() || !dom.Parse(strPath.c_str()))
             RaiseFault(FUNCTION, "TaxOffices.xmlの読み込みでエラーが発生しました。");
@@ -45,6 +47,7 @@ void KZCEkaTaxOffices::Initialize()
                 pOffices->try_emplace(dom.GetAttribute("OfficeCode"),
                                       dom.GetAttribute("OfficeName"));
         }
+        LostText::Check();  // else the codes and names would stay wrong until destroy
         m_pOffices = std::move(pOffices);
     } catch (...) {
         RaiseFault(FUNCTION, UNEXPECTED_ERROR);

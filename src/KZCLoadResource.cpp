@@ -64,10 +64,15 @@ std::string KZCLoadResource::getBundlePath()
 std::string KZCLoadResource::getPathName(const std::string& strName)
 {
     const std::string strBundle = getBundlePath();
-    const std::string strFile = fs::path(strName).filename().string();
+    const std::size_t nEnd = strName.find_last_not_of('/');
+    // A separator at the end is no component.
+    const std::string strFile = nEnd != std::string::npos
+                                    ? fs::path(strName.substr(0, nEnd + 1)).filename().string()
+                                    : std::string();
     if (strBundle.empty() || strFile.empty() || strFile == "." || strFile == "..")
         return {};
     const fs::path path = fs::path(strBundle) / strFile;
     std::error_code error;
-    return fs::exists(path, error) ? path.string() : std::string();
+    const fs::file_status status = fs::status(path, error);
+    return fs::exists(status) && !fs::is_directory(status) ? path.string() : std::string();
 }

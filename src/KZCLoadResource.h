@@ -15,7 +15,7 @@ public:
     /// installed.
     static std::string getBundlePath();
 
-    /// The file of that folder with the last path component of strName, or the empty text if it
-    /// doesn't exist.
+    /// The file of that folder with the last path component of strName, or the empty text if there
+    /// is none or a folder of that name.
     static std::string getPathName(const std::string& strName);
 };

@@ -67,7 +67,8 @@ public:
     /// Full paths of the folder's files, sorted by name, without folders and ".DS_Store".
     /// \return false if the folder can't be listed.
     static bool getFilesUnderFolder(const char* szFolder, std::vector<std::string>& vecFiles);
-    /// HOME, else what the user database says. Valid until the next call.
+    /// HOME, which set-user-id programs ignore, else what the user database says, else the empty
+    /// text. Valid until the next call.
     static const char* homeDirectory();
     /// The folder KZEkaMok.bundle, or the empty text.
     static std::string getBundlePath();
@@ -76,22 +77,39 @@ public:
     /// The bytes of a regular file.
     /// \return false if it can't be read to its end.
     static bool readFile(const char* szPath, std::string& strBytes);
+    enum class ReadResult
+    {
+        READ,
+        NOT_OPENED,
+        NOT_READ,  ///< a folder, a disk error, or a pipe that gives too much or takes too long
+    };
+    /// The bytes of a regular file, or of a pipe or device up to its end: 64 MiB at most, and what
+    /// comes within five seconds.
+    static ReadResult readStream(const char* szPath, std::string& strBytes);
     enum class WriteMode
     {
         PLAIN,
         FLUSHED,  ///< the bytes are on the disk on return
     };
+    enum class WriteResult
+    {
+        WRITTEN,
+        NOT_OPENED,   ///< nothing was touched
+        NOT_WRITTEN,  ///< a file that the call made is gone again, one that was there is left empty
+                      ///< rather than half written
+    };
     /// Makes the file or replaces what it holds.
-    /// \return false on failure: a file that this call made doesn't stay behind, one that was there
-    /// is left empty rather than half written.
-    static bool writeFile(const char* szPath, std::string_view strBytes, WriteMode eMode);
-    /// Appends the bytes to a file and has them on the disk on return. A new file is readable by
-    /// its owner alone.
-    static bool appendToFile(const char* szPath, std::string_view strBytes);
+    static WriteResult writeFile(const char* szPath, std::string_view strBytes, WriteMode eMode);
+    /// Appends the bytes to a log and has them on the disk on return. Only a regular file of the
+    /// current user under this one name will do, and no link to one; it becomes readable by its
+    /// owner alone.
+    /// \return true if there is such a file now.
+    static bool appendToLog(const char* szPath, std::string_view strBytes);
 
     // --- calendar ---
 
-    /// The present local time by two Unicode date patterns, joined by a blank if both are given.
+    /// The present local time by two Unicode date patterns (see DatePattern.h), joined by a blank
+    /// if both are given.
     static std::string dateTimeNow(const char* szDatePattern, const char* szTimePattern);
     /// The text is a real date.
     static bool dateTimeChange(const char* szDate);

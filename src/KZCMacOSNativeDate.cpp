@@ -1,71 +1,18 @@
 // Calendar services.
 #include <ctime>
 #include <optional>
-#include <string_view>
 
 #include "CText.h"
 #include "Clock.h"
+#include "DatePattern.h"
 #include "DateReader.h"
 #include "KZCMacOSNative.h"
 
 namespace {
 
-constexpr int TM_BASE_YEAR = 1900;
 constexpr long LOWER_ABSENT = 15;
 constexpr long UPPER_ABSENT = 240;
 constexpr long UPPER_FACTOR = 16;
-
-long Field(char cLetter, const std::tm& time)
-{
-    switch (cLetter) {
-        case 'y':
-            return time.tm_year + TM_BASE_YEAR;
-        case 'M':
-            return time.tm_mon + 1;
-        case 'd':
-            return time.tm_mday;
-        case 'H':
-            return time.tm_hour;
-        case 'm':
-            return time.tm_min;
-        case 's':
-            return time.tm_sec;
-        default:
-            return 0;
-    }
-}
-
-/// Renders the fields y, M, d, H, m, s of the Unicode date pattern language, quoted parts and
-/// punctuation as they stand.
-std::string Render(std::string_view strPattern, const std::tm& time)
-{
-    constexpr std::string_view FIELDS = "yMdHms";
-    constexpr long CENTURY = 100;
-    std::string strOut;
-    bool bQuoted = false;
-    for (std::size_t nAt = 0; nAt < strPattern.size();) {
-        const char cLetter = strPattern[nAt];
-        std::size_t nCount = 1;
-        if (cLetter == '\'') {
-            // Two quotes in a row are a quote.
-            if (strPattern.substr(nAt).starts_with("''"))
-                strOut += strPattern[nAt++];
-            else
-                bQuoted = !bQuoted;
-        } else if (bQuoted || FIELDS.find(cLetter) == std::string_view::npos) {
-            strOut += cLetter;
-        } else {
-            while (nAt + nCount < strPattern.size() && strPattern[nAt + nCount] == cLetter)
-                ++nCount;
-            const long lField = Field(cLetter, time);
-            const bool bShortYear = cLetter == 'y' && nCount == 2;
-            CText::AppendNumber(strOut, bShortYear ? lField % CENTURY : lField,
-                                static_cast<int>(nCount));
-        }
-        nAt += nCount;
-    }
-    return strOut;
-}
 
 bool IsGiven(const char* szText)
 {
@@ -98,7 +45,7 @@ std::string KZCMacOSNative::dateTimeNow(const char* szDatePattern, const char* s
     const std::time_t now = Clock::Now();
     std::tm time = {};
     localtime_r(&now, &time);
-    return Render(strPattern, time);
+    return RenderDate(strPattern, time, now);
 }
 
 bool KZCMacOSNative::dateTimeChange(const char* szDate)

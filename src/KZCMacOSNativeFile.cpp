@@ -1,6 +1,7 @@
 // File services.
 #include <dirent.h>
 #include <fcntl.h>
+#include <poll.h>
 #include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -8,6 +9,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <memory>
@@ -22,8 +24,12 @@
 namespace {
 
 constexpr mode_t OWNER_ONLY = 0600;
+constexpr mode_t ALL_RIGHTS = 07777;
 constexpr mode_t EVERYONE = 0666;  // less the process's mask
 constexpr std::size_t READ_CHUNK = 65536;
+/// Bytes of something that has no size, and how long it may take to give them.
+constexpr std::size_t STREAM_SIZE = 67108864;
+constexpr std::chrono::milliseconds STREAM_TIME(5000);
 
 /// Owns an open file.
 class FileHandle
@@ -64,6 +70,43 @@ public:
             else if (errno != EINTR)
                 return false;
         }
+    }
+
+    /// The same of something that may end late or never. Opened with O_NONBLOCK.
+    bool ReadStream(std::string& strBytes) const
+    {
+        using Clock = std::chrono::steady_clock;
+        const Clock::time_point end = Clock::now() + STREAM_TIME;
+        std::array<char, READ_CHUNK> chunk;
+        while (strBytes.size() <= STREAM_SIZE) {
+            // The end of a pipe that nobody has opened to write yet isn't its end: wait first.
+            const auto rest =
+                std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+            pollfd wait = {m_nFile, POLLIN, 0};
+            const int nReady =
+                rest.count() > 0 ? poll(&wait, 1, static_cast<int>(rest.count())) : 0;
+            if (nReady < 0 && errno == EINTR)
+                continue;
+            if (nReady <= 0)
+                return false;
+            const ssize_t nRead = read(m_nFile, chunk.data(), chunk.size());
+            if (nRead == 0)
+                return true;
+            if (nRead > 0)
+                strBytes.append(chunk.data(), static_cast<std::size_t>(nRead));
+            else if (errno != EINTR && errno != EAGAIN)
+                return false;
+        }
+        return false;
+    }
+
+    /// A regular file of the current user with no second name, readable by him alone.
+    bool MakePrivate() const
+    {
+        struct stat info = {};
+        return fstat(m_nFile, &info) == 0 && S_ISREG(info.st_mode) && info.st_uid == geteuid() &&
+               info.st_nlink == 1 &&
+               ((info.st_mode & ALL_RIGHTS) == OWNER_ONLY || fchmod(m_nFile, OWNER_ONLY) == 0);
     }
 
     bool WriteAll(std::string_view strBytes) const
@@ -149,7 +192,19 @@ bool KZCMacOSNative::readFile(const char* szPath, std::string& strBytes)
     return file.IsOpen() && file.IsRegular() && file.ReadAll(strBytes);
 }
 
-bool KZCMacOSNative::writeFile(const char* szPath, std::string_view strBytes, WriteMode eMode)
+KZCMacOSNative::ReadResult KZCMacOSNative::readStream(const char* szPath, std::string& strBytes)
+{
+    strBytes.clear();
+    const FileHandle file(CText::OrEmpty(szPath), O_RDONLY | O_NONBLOCK | O_NOCTTY);
+    if (!file.IsOpen())
+        return ReadResult::NOT_OPENED;
+    const bool bRead = file.IsRegular() ? file.ReadAll(strBytes) : file.ReadStream(strBytes);
+    return bRead ? ReadResult::READ : ReadResult::NOT_READ;
+}
+
+KZCMacOSNative::WriteResult KZCMacOSNative::writeFile(const char* szPath,
+                                                      std::string_view strBytes,
+                                                      WriteMode eMode)
 {
     const char* szFile = CText::OrEmpty(szPath);
     const auto write = [&](const FileHandle& file) {
@@ -161,23 +216,23 @@ bool KZCMacOSNative::writeFile(const char* szPath, std::string_view strBytes, Wr
     if (madeFile.IsOpen()) {
         const bool bWritten = write(madeFile);
         if (madeFile.Close() && bWritten)
-            return true;
+            return WriteResult::WRITTEN;
         unlink(szFile);
-        return false;
+        return WriteResult::NOT_WRITTEN;
     }
     // O_CREAT once more: a link to a file that isn't there yet gets here too. A pipe that nobody
     // reads is refused instead of waited for.
     const bool bThrough = !GetInfo(szFile);
     FileHandle file(szFile, O_WRONLY | O_CREAT | O_NONBLOCK, EVERYONE);
     if (!file.IsOpen() || !file.WaitOnWrite() || !file.Truncate())
-        return false;
+        return WriteResult::NOT_OPENED;
     if (write(file))
-        return file.Close();
+        return file.Close() ? WriteResult::WRITTEN : WriteResult::NOT_WRITTEN;
     // The old content is gone; half of the new one must not pass for the whole.
     static_cast<void>(file.Truncate());
     if (bThrough)
         RemoveLinkTarget(szFile);
-    return false;
+    return WriteResult::NOT_WRITTEN;
 }
 
 bool KZCMacOSNative::writeSJISFile(const char* szPath, const char* szText, bool bUtf8)
@@ -185,13 +240,17 @@ bool KZCMacOSNative::writeSJISFile(const char* szPath, const char* szText, bool 
     const std::string_view strText = CText::OrEmpty(szText);
     const auto strUnits = bUtf8 ? Utf8::Decode(strText) : ShiftJis::Decode(strText);
     const auto strBytes = strUnits ? ShiftJis::Encode(*strUnits) : std::nullopt;
-    return strBytes && writeFile(szPath, *strBytes, WriteMode::FLUSHED);
+    return strBytes && writeFile(szPath, *strBytes, WriteMode::FLUSHED) == WriteResult::WRITTEN;
 }
 
-bool KZCMacOSNative::appendToFile(const char* szPath, std::string_view strBytes)
+bool KZCMacOSNative::appendToLog(const char* szPath, std::string_view strBytes)
 {
-    const FileHandle file(CText::OrEmpty(szPath), O_WRONLY | O_CREAT | O_APPEND, OWNER_ONLY);
-    if (!file.IsOpen())
+    // Whatever stands under the name may have been put there by somebody else: a link would lead
+    // the values elsewhere, a pipe would make the request wait.
+    const FileHandle file(CText::OrEmpty(szPath),
+                          O_WRONLY | O_CREAT | O_APPEND | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY,
+                          OWNER_ONLY);
+    if (!file.IsOpen() || !file.MakePrivate())
         return false;
     if (file.WriteAll(strBytes))
         static_cast<void>(file.Flush());
@@ -265,7 +324,7 @@ bool KZCMacOSNative::getFilesUnderFolder(const char* szFolder, std::vector<std::
 const char* KZCMacOSNative::homeDirectory()
 {
     static std::string strHome;
-    const char* szHome = std::getenv("HOME");
+    const char* szHome = secure_getenv("HOME");
     if (szHome == nullptr || *szHome == '\0') {
         const passwd* pUser = getpwuid(getuid());
         szHome = pUser != nullptr ? pUser->pw_dir : nullptr;

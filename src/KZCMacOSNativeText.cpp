@@ -58,7 +58,7 @@ unsigned char UnitLength(char16_t cUnit, bool bUtf8)
 }  // namespace
 
 std::string KZCMacOSNative::readSJISFile(const char* szPath, bool bUtf8)
-{
+try {
     std::string strBytes;
     if (!readFile(szPath, strBytes))
         return {};
@@ -68,6 +68,8 @@ std::string KZCMacOSNative::readSJISFile(const char* szPath, bool bUtf8)
     if (const std::size_t nEnd = strText->find('\0'); nEnd != std::string::npos)
         strText->resize(nEnd);
     return *std::move(strText);
+} catch (...) {
+    return {};  // no memory for it: a file that can't be read
 }
 
 std::string KZCMacOSNative::convertUTF8fromShiftJIS(const char* szText)

@@ -2,47 +2,38 @@
 
 #include <xercesc/dom/DOM.hpp>
 #include <xercesc/framework/MemBufInputSource.hpp>
-#include <xercesc/framework/XMLAttr.hpp>
-#include <xercesc/framework/XMLElementDecl.hpp>
 #include <xercesc/framework/XMLFormatter.hpp>
-#include <xercesc/parsers/XercesDOMParser.hpp>
 #include <xercesc/sax/EntityResolver.hpp>
 #include <xercesc/sax/HandlerBase.hpp>
 #include <xercesc/sax/SAXParseException.hpp>
 #include <xercesc/util/IOException.hpp>
 #include <xercesc/util/SecurityManager.hpp>
 #include <xercesc/util/XMLUni.hpp>
-#include <xercesc/validators/DTD/DTDElementDecl.hpp>
 
+#include <new>
+
+#include "BoundedXmlParser.h"
 #include "CText.h"
+#include "DocumentFile.h"
 #include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCMacOSNative.h"
+#include "LostText.h"
 #include "XercesMemory.h"
+#include "XmlLimits.h"
 
 namespace {
 
 using xercesc::DOMNode;
 
+constexpr const char* PARSE_FUNCTION = "KZCXDom::Parse";
 constexpr const char* UNEXPECTED = "想定しないエラーが発生しました。";
+constexpr const char* NO_MEMORY = "クラスの生成(new)に失敗しました。";
+constexpr const char* SERIALISER_FAILED = "Xercesのシリアライズ中にエラーが発生しました。";
 /// The log's name of both ways out.
 constexpr const char* SAVE_FUNCTION = "KZCXDOM::Save";
 /// Size of the buffer in which line and column of a parse error are printed; a longer text is cut.
 constexpr std::size_t POSITION_BUFFER_SIZE = 1024;
-/// More entity references in one document are an attack.
-constexpr XMLSize_t MAX_ENTITY_EXPANSIONS = 100;
-/// Deeper elements are an attack: the library looks names up from the innermost element outwards,
-/// so that its time grows with the square of the depth.
-constexpr int MAX_ELEMENT_DEPTH = 1000;
-/// More attributes at one element are an attack: the library finds the place of each by looking at
-/// all.
-constexpr XMLSize_t MAX_ATTRIBUTES = 20000;
-/// Bytes of a document that brings a grammar of its own. Much in the library's reading of a grammar
-/// grows with the square of its size.
-constexpr std::size_t MAX_SIZE_WITH_GRAMMAR = 65536;
-/// Units of an element's content model in a document's own grammar. The automaton that the library
-/// makes of a longer one may be without measure.
-constexpr std::size_t MAX_CONTENT_MODEL = 64;
 /// Bytes that the text of one serialised document is expected to take at least.
 constexpr std::size_t EXPECTED_SIZE = 1023;
 
@@ -64,85 +55,6 @@ public:
     }
 };
 
-/// A parser that gives up on a document nested too deep.
-class BoundedParser final : public xercesc::XercesDOMParser
-{
-public:
-    explicit BoundedParser(xercesc::MemoryManager* pMemory) : XercesDOMParser(nullptr, pMemory) {}
-
-    void startDocument() override
-    {
-        m_nDepth = 0;
-        XercesDOMParser::startDocument();
-    }
-
-    void startElement(const xercesc::XMLElementDecl& elemDecl,
-                      const unsigned int uriId,
-                      const XMLCh* const prefixName,
-                      const xercesc::RefVectorOf<xercesc::XMLAttr>& attrList,
-                      const XMLSize_t attrCount,
-                      const bool isEmpty,
-                      const bool isRoot) override
-    {
-        if (++m_nDepth > MAX_ELEMENT_DEPTH || attrCount > MAX_ATTRIBUTES)
-            throw FAULT;
-        XercesDOMParser::startElement(elemDecl, uriId, prefixName, attrList, attrCount, isEmpty,
-                                      isRoot);
-    }
-
-    /// Called for empty elements too.
-    void endElement(const xercesc::XMLElementDecl& elemDecl,
-                    const unsigned int uriId,
-                    const bool isRoot,
-                    const XMLCh* const prefixName) override
-    {
-        --m_nDepth;
-        XercesDOMParser::endElement(elemDecl, uriId, isRoot, prefixName);
-    }
-
-    /// Called before the grammar inside the document is read.
-    void doctypeDecl(const xercesc::DTDElementDecl& elemDecl,
-                     const XMLCh* const publicId,
-                     const XMLCh* const systemId,
-                     const bool hasIntSubset,
-                     const bool hasExtSubset) override
-    {
-        if (m_nSize > MAX_SIZE_WITH_GRAMMAR)
-            throw FAULT;
-        XercesDOMParser::doctypeDecl(elemDecl, publicId, systemId, hasIntSubset, hasExtSubset);
-    }
-
-    void elementDecl(const xercesc::DTDElementDecl& decl, const bool isIgnored) override
-    {
-        const XMLCh* szModel = decl.getFormattedContentModel();
-        if (szModel != nullptr && std::u16string_view(szModel).size() > MAX_CONTENT_MODEL)
-            throw FAULT;
-        XercesDOMParser::elementDecl(decl, isIgnored);
-    }
-
-    /// Parameter entities are refused where they are declared: no limit of the library counts their
-    /// expansions.
-    void entityDecl(const xercesc::DTDEntityDecl& entityDecl,
-                    const bool isPEDecl,
-                    const bool isIgnored) override
-    {
-        if (isPEDecl)
-            throw FAULT;
-        XercesDOMParser::entityDecl(entityDecl, isPEDecl, isIgnored);
-    }
-
-    /// \param nSize  Bytes of the source.
-    void ParseSource(const xercesc::MemBufInputSource& source, std::size_t nSize)
-    {
-        m_nSize = nSize;
-        parse(source);
-    }
-
-private:
-    std::size_t m_nSize = 0;
-    int m_nDepth = 0;
-};
-
 /// Takes what the serialiser writes.
 class TextTarget final : public xercesc::XMLFormatTarget
 {
@@ -162,6 +74,33 @@ private:
     std::string m_strText;
 };
 
+/// Writes the comments of a document in UTF-8 past the serialiser, which looks at all siblings of a
+/// comment before it writes it: a cell may consist of any number of them.
+class CommentWriter final : public xercesc::DOMLSSerializerFilter
+{
+public:
+    explicit CommentWriter(TextTarget& target) : m_target(target) {}
+
+    FilterAction acceptNode(const DOMNode* node) const override
+    {
+        m_target.Text() += "<!--" + ToUtf8(node->getNodeValue()) + "-->";
+        return FILTER_REJECT;
+    }
+    ShowType getWhatToShow() const override { return SHOW_COMMENT; }
+    void setWhatToShow(ShowType /*toShow*/) {}
+
+private:
+    TextTarget& m_target;
+};
+
+/// The encoding that the serialiser takes from the document is UTF-8.
+bool IsUtf8(const xercesc::DOMDocument& document)
+{
+    const XMLCh* szEncoding = document.getInputEncoding();
+    return szEncoding != nullptr &&
+           xercesc::XMLString::equals(szEncoding, xercesc::XMLUni::fgUTF8EncodingString);
+}
+
 /// Objects of the Load and Save interfaces go back to the library that made them.
 struct XmlRelease
 {
@@ -178,17 +117,52 @@ using ReleasedPointer = std::unique_ptr<Object, XmlRelease>;
 /// Runs a step of the serialiser and logs what it throws.
 template <class Step>
 bool RunSaveStep(Step step)
-{
+try {
     try {
-        return step();
+        step();
+        return true;
     } catch (const xercesc::XMLException& exception) {
         KZCDebugDump::Log(SAVE_FUNCTION, ToUtf8(exception.getMessage()).c_str());
     } catch (const xercesc::DOMException& exception) {
         KZCDebugDump::Log(SAVE_FUNCTION, ToUtf8(exception.getMessage()).c_str());
-    } catch (...) {
-        KZCDebugDump::Log(SAVE_FUNCTION, "Xercesのシリアライズ中にエラーが発生しました。");
     }
     return false;
+} catch (...) {
+    KZCDebugDump::Log(SAVE_FUNCTION, SERIALISER_FAILED);
+    return false;
+}
+
+/// The library's own words for a document that could not be written.
+void RequireWritten(KZCMacOSNative::WriteResult eResult, const char* szPath)
+{
+    using Result = KZCMacOSNative::WriteResult;
+    if (eResult == Result::NOT_OPENED)
+        throw xercesc::IOException(__FILE__, __LINE__, xercesc::XMLExcepts::File_CouldNotOpenFile,
+                                   CharToXMLCh(szPath).Get());
+    if (eResult == Result::NOT_WRITTEN)
+        throw xercesc::XMLPlatformUtilsException(__FILE__, __LINE__,
+                                                 xercesc::XMLExcepts::File_CouldNotWriteToFile);
+}
+
+/// What the step gives, or the empty text if there is no memory for it.
+template <class Step>
+std::string TextOrLost(const char* szFunction, Step step)
+try {
+    return step();
+} catch (...) {
+    LostText::Note();
+    KZCDebugDump::Log(szFunction, UNEXPECTED);
+    return {};
+}
+
+/// The reason and the place of a document that is not well-formed.
+std::string ReasonOf(const xercesc::SAXParseException& exception)
+{
+    const std::string strPosition =
+        " (行番号: " + std::to_string(static_cast<int>(exception.getLineNumber())) +
+        ", 列番号: " + std::to_string(static_cast<int>(exception.getColumnNumber())) + ")";
+    return std::string(UNEXPECTED) + "\n" + ToUtf8(exception.getMessage()) +
+           CText::CutToBuffer(strPosition, POSITION_BUFFER_SIZE);
 }
 
 }  // namespace
@@ -198,16 +172,16 @@ struct KZCXDom::Parser
     XercesSession session;  // first in, last out
     NothingExternal entityResolver;
     xercesc::SecurityManager securityManager;
-    xercesc::HandlerBase errorHandler;  // ignores all but fatal errors, which it throws
     XercesMemory memory;
-    BoundedParser domParser{&memory};
+    BoundedXmlParser domParser{&memory};
 
     Parser()
     {
-        securityManager.setEntityExpansionLimit(MAX_ENTITY_EXPANSIONS);
-        // Validates as soon as there is a grammar. Validating always would give the same documents,
-        // but makes and drops an error for every element of a document without one.
-        domParser.setValidationScheme(xercesc::XercesDOMParser::Val_Auto);
+        securityManager.setEntityExpansionLimit(XmlLimits::ENTITY_REFERENCES);
+        // Errors against a grammar are ignored, so validating would give the same documents, with
+        // the defaults of the grammar. It would only make and drop an error for every element of a
+        // document without one, and automata without measure of the content models of one with.
+        domParser.setValidationScheme(xercesc::XercesDOMParser::Val_Never);
         domParser.setDoNamespaces(true);
         domParser.setCreateEntityReferenceNodes(false);
         domParser.setEntityResolver(&entityResolver);
@@ -243,75 +217,85 @@ void KZCXDom::Terminate()
 bool KZCXDom::Parse(const char* szText, const char* szBufferId, const char* szEncoding)
 {
     if (szText == nullptr || !m_pParser) {
-        KZCDebugDump::Log("KZCXDom::Parse", UNEXPECTED);
+        KZCDebugDump::Log(PARSE_FUNCTION, UNEXPECTED);
         return false;
     }
     return RunParse([&] {
-        xercesc::MemBufInputSource source(
-            reinterpret_cast<const XMLByte*>(szText), std::char_traits<char>::length(szText),
-            CharToXMLCh(CText::OrEmpty(szBufferId)).Get(), false, &m_pParser->memory);
+        const std::size_t nSize = std::char_traits<char>::length(szText);
+        xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(szText), nSize,
+                                          CharToXMLCh(CText::OrEmpty(szBufferId)).Get(), false,
+                                          &m_pParser->memory);
         if (szEncoding != nullptr)
             source.setEncoding(CharToXMLCh(szEncoding).Get());
-        m_pParser->domParser.ParseSource(source, std::char_traits<char>::length(szText));
+        m_pParser->domParser.ParseSource(source, nSize);
     });
 }
 
 bool KZCXDom::Parse(const char* szPath)
 {
-    std::string strBytes;
-    if (szPath == nullptr || !m_pParser || !KZCMacOSNative::readFile(szPath, strBytes)) {
-        KZCDebugDump::Log("KZCXDom::Parse", UNEXPECTED);
+    if (szPath == nullptr || !m_pParser) {
+        KZCDebugDump::Log(PARSE_FUNCTION, UNEXPECTED);
         return false;
     }
     return RunParse([&] {
-        // Read by the library's own file layer, a path would depend on the locale.
-        const xercesc::MemBufInputSource source(reinterpret_cast<const XMLByte*>(strBytes.data()),
-                                                strBytes.size(), CharToXMLCh("file").Get(), false,
-                                                &m_pParser->memory);
-        m_pParser->domParser.ParseSource(source, strBytes.size());
+        const DocumentFile source(szPath, &m_pParser->memory);
+        m_pParser->domParser.ParseSource(source, source.Size());
     });
 }
 
 template <class ParseStep>
 bool KZCXDom::RunParse(ParseStep parse)
-{
-    constexpr const char* FUNCTION = "KZCXDom::Parse";
-    xercesc::XercesDOMParser& parser = m_pParser->domParser;
+try {
+    // Ignores all but fatal errors, which it throws.
+    const std::unique_ptr<xercesc::HandlerBase> pHandler(new (std::nothrow) xercesc::HandlerBase);
+    if (!pHandler) {
+        KZCDebugDump::Log(PARSE_FUNCTION, NO_MEMORY);
+        return false;
+    }
+    m_pParser->domParser.reset();
+    m_pParser->domParser.setErrorHandler(pHandler.get());
+    const bool bParsed = RunParseStep(parse);
+    m_pParser->domParser.setErrorHandler(nullptr);
+    m_pParser->domParser.reset();
+    return bParsed;
+} catch (...) {
+    KZCDebugDump::Log(PARSE_FUNCTION, UNEXPECTED);
+    return false;
+}
+
+template <class ParseStep>
+bool KZCXDom::RunParseStep(ParseStep parse)
+try {
     try {
-        parser.reset();
-        parser.setErrorHandler(&m_pParser->errorHandler);
         parse();
-        m_pDocument = parser.getDocument();
+        m_pDocument = m_pParser->domParser.getDocument();
         m_pCursor = m_pDocument != nullptr ? m_pDocument->getFirstChild() : nullptr;
         m_strSerialised.clear();
-        parser.reset();
         return true;
     } catch (const xercesc::SAXParseException& exception) {
-        const std::string strPosition =
-            " (行番号: " + std::to_string(static_cast<int>(exception.getLineNumber())) +
-            ", 列番号: " + std::to_string(static_cast<int>(exception.getColumnNumber())) + ")";
-        const std::string strMessage = std::string(UNEXPECTED) + "\n" +
-                                       ToUtf8(exception.getMessage()) +
-                                       CText::CutToBuffer(strPosition, POSITION_BUFFER_SIZE);
-        KZCDebugDump::Log(FUNCTION, strMessage.c_str());
-    } catch (...) {
-        KZCDebugDump::Log(FUNCTION, UNEXPECTED);
+        KZCDebugDump::Log(PARSE_FUNCTION, ReasonOf(exception).c_str());
+        return false;
     }
-    parser.reset();
+} catch (...) {
+    KZCDebugDump::Log(PARSE_FUNCTION, UNEXPECTED);
     return false;
 }
 
 std::string KZCXDom::GetNodeName() const
 {
-    return m_pCursor != nullptr ? ToUtf8(m_pCursor->getNodeName()) : std::string();
+    return TextOrLost("KZCXDom::GetNodeName", [this] {
+        return m_pCursor != nullptr ? ToUtf8(m_pCursor->getNodeName()) : std::string();
+    });
 }
 
 std::string KZCXDom::GetAttribute(const char* szName) const
 {
     if (m_pCursor == nullptr || m_pCursor->getNodeType() != DOMNode::ELEMENT_NODE)
         return {};
-    const auto* pElement = static_cast<const xercesc::DOMElement*>(m_pCursor);
-    return ToUtf8(pElement->getAttribute(CharToXMLCh(szName).Get()));
+    return TextOrLost("KZCXDom::GetAttribute", [&] {
+        const auto* pElement = static_cast<const xercesc::DOMElement*>(m_pCursor);
+        return ToUtf8(pElement->getAttribute(CharToXMLCh(szName).Get()));
+    });
 }
 
 bool KZCXDom::HasChild() const
@@ -379,11 +363,9 @@ long KZCXDom::Save(const char* szPath)
     if (szPath == nullptr || !Serialise())
         return STATUS_NG;
     const bool bSaved = RunSaveStep([&] {
-        if (!KZCMacOSNative::writeFile(szPath, m_strSerialised, KZCMacOSNative::WriteMode::PLAIN))
-            throw xercesc::IOException(__FILE__, __LINE__,
-                                       xercesc::XMLExcepts::File_CouldNotOpenFile,
-                                       CharToXMLCh(szPath).Get());
-        return true;
+        RequireWritten(
+            KZCMacOSNative::writeFile(szPath, m_strSerialised, KZCMacOSNative::WriteMode::PLAIN),
+            szPath);
     });
     return bSaved ? STATUS_OK : STATUS_NG;
 }
@@ -392,8 +374,7 @@ long KZCXDom::SaveXml(std::string& strOut)
 {
     if (!Serialise())
         return STATUS_NG;
-    strOut = m_strSerialised;
-    return STATUS_OK;
+    return RunSaveStep([&] { strOut = m_strSerialised; }) ? STATUS_OK : STATUS_NG;
 }
 
 long KZCXDom::GetSerialisedSize()
@@ -423,12 +404,14 @@ bool KZCXDom::Serialise()
         pSerialiser->setNewLine(newLine.Get());
 
         TextTarget target;
+        CommentWriter comments(target);
+        if (IsUtf8(*m_pDocument))
+            pSerialiser->setFilter(&comments);
         const ReleasedPointer<xercesc::DOMLSOutput> pOutput(
             pImplementation->createLSOutput(pMemory));
         pOutput->setByteStream(&target);
         if (!pSerialiser->write(m_pDocument, pOutput.get()))
-            return false;
+            throw FAULT;
         m_strSerialised = std::move(target.Text());
-        return true;
     });
 }

@@ -16,7 +16,8 @@ XERCES_CPP_NAMESPACE_END
 
 /// No operation throws; results tell failure and the log tells why. All texts are UTF-8 in every
 /// locale. External entities and DTD subsets are never fetched: a document that asks for one fails
-/// to parse. Moves go over elements only and leave the cursor where it was when they fail.
+/// to parse, as does one that goes beyond XmlLimits. Moves go over elements only and leave the
+/// cursor where it was when they fail.
 class KZCXDom : public KZCXParser
 {
 public:
@@ -30,10 +31,11 @@ public:
     /// Ends what Initialize began. The document ends with it.
     void Terminate() override;
     bool Parse(const char* szText, const char* szBufferId, const char* szEncoding) override;
-    /// \param szPath  A regular file, read whole.
+    /// \param szPath  A file, read whole, or a pipe (see KZCMacOSNative::readStream).
     bool Parse(const char* szPath);
 
-    /// Name of the node under the cursor; empty without a cursor.
+    /// Name of the node under the cursor; empty without a cursor. A text for which there is no
+    /// memory is empty, too, here and below, and LostText notes it.
     std::string GetNodeName() const;
     /// Empty without a cursor and for an absent attribute. The cursor has to stand on an element.
     std::string GetAttribute(const char* szName) const;
@@ -64,11 +66,13 @@ private:
 
     template <class ParseStep>
     bool RunParse(ParseStep parse);
+    template <class ParseStep>
+    bool RunParseStep(ParseStep parse);
     long MoveToElement(XERCES_CPP_NAMESPACE::DOMNode* pNode, NodeStep pStep);
     bool Serialise();
 
     XERCES_CPP_NAMESPACE::DOMDocument* m_pDocument = nullptr;  ///< owned by the parser
+    std::unique_ptr<Parser> m_pParser;                         ///< null before Initialize
     XERCES_CPP_NAMESPACE::DOMNode* m_pCursor = nullptr;
-    std::unique_ptr<Parser> m_pParser;  ///< null before Initialize
     std::string m_strSerialised;  ///< the document's text once it has been serialised, else empty
 };

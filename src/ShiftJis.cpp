@@ -110,6 +110,9 @@ private:
     std::vector<std::uint16_t> m_vecCode;
 };
 
+/// What stands for something that can't be decoded, U+FFFD in UTF-8.
+constexpr std::string_view REPLACEMENT = "\xEF\xBF\xBD";
+
 /// Calls use(unit, code) for each character; false at the first invalid sequence.
 template <class Use>
 bool ForEachUnit(std::string_view strText, Use use)
@@ -244,6 +247,25 @@ std::optional<std::string> ToUtf8(std::string_view strText)
     return strOut;
 }
 
+std::string ToUtf8Anyway(std::string_view strText)
+{
+    const CodePage& codePage = CodePage::Get();
+    std::string strOut;
+    for (std::size_t nByte = 0; nByte < strText.size(); ++nByte) {
+        const unsigned nFirst = static_cast<unsigned char>(strText[nByte]);
+        std::uint16_t nUnit = codePage.Unit(nFirst);
+        if (nUnit == NO_IMAGE && nByte + 1 < strText.size()) {
+            nUnit = codePage.Unit(nFirst << 8U | static_cast<unsigned char>(strText[nByte + 1]));
+            nByte += nUnit == NO_IMAGE ? 0 : 1;
+        }
+        if (nUnit == NO_IMAGE)
+            strOut += REPLACEMENT;
+        else
+            Utf8::AppendUnit(strOut, static_cast<char16_t>(nUnit));
+    }
+    return strOut;
+}
+
 }  // namespace ShiftJis
 
 namespace Utf8 {
@@ -294,6 +316,29 @@ bool ForEachCharacter(std::string_view strText, Use use)
         use(nCharacter, nByte - nStart);
     }
     return true;
+}
+
+/// Behind the character at nByte, or behind as much of one as stands there, one byte at least.
+std::size_t EndOfCharacter(std::string_view strText, std::size_t nByte)
+{
+    const unsigned nFirst = static_cast<unsigned char>(strText[nByte++]);
+    const auto lead = ReadLead(static_cast<unsigned char>(nFirst));
+    if (!lead)
+        return nByte;
+    for (std::size_t nTrail = 0; nTrail < lead->nTrail && nByte < strText.size(); ++nTrail) {
+        // The first of them must not make an overlong form, a surrogate or more than U+10FFFF.
+        unsigned nLow = 0x80;
+        unsigned nHigh = 0xBF;
+        if (nTrail == 0) {
+            nLow = nFirst == 0xE0 ? 0xA0 : nFirst == 0xF0 ? 0x90 : nLow;
+            nHigh = nFirst == 0xED ? 0x9F : nFirst == 0xF4 ? 0x8F : nHigh;
+        }
+        const unsigned nNext = static_cast<unsigned char>(strText[nByte]);
+        if (nNext < nLow || nNext > nHigh)
+            break;
+        ++nByte;
+    }
+    return nByte;
 }
 
 /// Writes the UTF-8 form of a character beyond U+FFFF at pOut. \return Behind it.
@@ -359,6 +404,20 @@ std::optional<std::string> Trim(std::string_view strText, bool (*isWhiteSpace)(c
         }))
         return std::nullopt;
     return nEnd == 0 ? std::string() : std::string(strText.substr(nStart, nEnd - nStart));
+}
+
+std::string Repair(std::string_view strText)
+{
+    std::string strOut;
+    strOut.reserve(strText.size());
+    for (std::size_t nByte = 0; nByte < strText.size();) {
+        const std::size_t nEnd = EndOfCharacter(strText, nByte);
+        const std::string_view strCharacter = strText.substr(nByte, nEnd - nByte);
+        const bool bWhole = ForEachCharacter(strCharacter, [](auto, auto) {});
+        strOut += bWhole ? strCharacter : REPLACEMENT;
+        nByte = nEnd;
+    }
+    return strOut;
 }
 
 void AppendUnit(std::string& strOut, char16_t cUnit)

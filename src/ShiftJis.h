@@ -24,6 +24,9 @@ std::optional<std::string> Trim(std::string_view strText, bool (*isWhiteSpace)(c
 /// The same text as UTF-8, or nothing if one byte sequence is invalid.
 std::optional<std::string> ToUtf8(std::string_view strText);
 
+/// The same with U+FFFD for each byte that is no part of a character.
+std::string ToUtf8Anyway(std::string_view strText);
+
 }  // namespace ShiftJis
 
 namespace Utf8 {
@@ -36,6 +39,10 @@ std::optional<std::string> Encode(std::u16string_view strText);
 
 /// The text without white space at both ends, or nothing if it is not well-formed.
 std::optional<std::string> Trim(std::string_view strText, bool (*isWhiteSpace)(char16_t cUnit));
+
+/// The text with U+FFFD for each sequence that is not well-formed; one for a character that breaks
+/// off.
+std::string Repair(std::string_view strText);
 
 /// Appends one character of the Basic Multilingual Plane that is no surrogate.
 void AppendUnit(std::string& strOut, char16_t cUnit);

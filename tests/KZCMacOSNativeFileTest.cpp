@@ -599,26 +599,26 @@ TEST_F(KZCMacOSNativeFileTest, ReadFileOfAnythingElseFails)
     EXPECT_FALSE(KZCMacOSNative::readFile(nullptr, strRead));
 }
 
-TEST_F(KZCMacOSNativeFileTest, AppendToFileMakesAFileForItsOwnerAlone)
+TEST_F(KZCMacOSNativeFileTest, AppendToLogMakesAFileForItsOwnerAlone)
 {
     const mode_t nMask = ::umask(0);
-    const bool bAppended = KZCMacOSNative::appendToFile(m_folder.Path("a.log").c_str(), "first");
+    const bool bAppended = KZCMacOSNative::appendToLog(m_folder.Path("a.log").c_str(), "first");
     ::umask(nMask);
     EXPECT_TRUE(bAppended);
     EXPECT_EQ(m_folder.Read("a.log"), "first");
     EXPECT_EQ(ModeOf(m_folder.Path("a.log")), 0600U);
 }
 
-TEST_F(KZCMacOSNativeFileTest, AppendToFileAppends)
+TEST_F(KZCMacOSNativeFileTest, AppendToLogAppends)
 {
     const std::string strPath = m_folder.Write("a.log", "first\n");
-    EXPECT_TRUE(KZCMacOSNative::appendToFile(strPath.c_str(), "second\n"));
+    EXPECT_TRUE(KZCMacOSNative::appendToLog(strPath.c_str(), "second\n"));
     EXPECT_EQ(m_folder.Read("a.log"), "first\nsecond\n");
 }
 
-TEST_F(KZCMacOSNativeFileTest, AppendToFileInAMissingFolderFails)
+TEST_F(KZCMacOSNativeFileTest, AppendToLogInAMissingFolderFails)
 {
-    EXPECT_FALSE(KZCMacOSNative::appendToFile(m_folder.Path("none/a.log").c_str(), "a"));
+    EXPECT_FALSE(KZCMacOSNative::appendToLog(m_folder.Path("none/a.log").c_str(), "a"));
 }
 
 }  // namespace
