@@ -19,6 +19,7 @@
 #include "KZCDebugDump.h"
 #include "KZCMacOSNative.h"
 #include "LostText.h"
+#include "SerialiserSettings.h"
 #include "XercesMemory.h"
 #include "XmlLimits.h"
 
@@ -395,13 +396,7 @@ bool KZCXDom::Serialise()
         xercesc::MemoryManager* pMemory = &m_pParser->memory;
         const ReleasedPointer<xercesc::DOMLSSerializer> pSerialiser(
             pImplementation->createLSSerializer(pMemory));
-        xercesc::DOMConfiguration* pConfiguration = pSerialiser->getDomConfig();
-        // A CDATA section that can't be written fails instead of being split.
-        if (pConfiguration->canSetParameter(xercesc::XMLUni::fgDOMWRTSplitCdataSections, false))
-            pConfiguration->setParameter(xercesc::XMLUni::fgDOMWRTSplitCdataSections, false);
-        // No line end, and wanted as it stands.
-        const CharToXMLCh newLine("_r_n");
-        pSerialiser->setNewLine(newLine.Get());
+        ApplySerialiserSettings(*pSerialiser);
 
         TextTarget target;
         CommentWriter comments(target);

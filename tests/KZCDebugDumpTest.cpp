@@ -1,11 +1,17 @@
 #include "KZCDebugDump.h"
 
+#include <fcntl.h>
 #include <gmock/gmock.h>
+#include <pwd.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 
+#include "KZCMacOSNative.h"
 #include "support/Environment.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
@@ -175,6 +181,159 @@ TEST_F(KZCDebugDumpTest, AFolderInPlaceOfTheFileDropsTheEntry)
     m_home.MakeFolder(LOG_NAME);
     SwitchOn();
     EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+}
+
+// --- what stands under the log's name already ---
+
+TEST_F(KZCDebugDumpTest, ALinkIsNotFollowed)
+{
+    const std::string strTarget = m_home.Write("target", "old\n");
+    std::filesystem::create_symlink(strTarget, m_home.Path(LOG_NAME));
+    SwitchOn();
+    EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+    EXPECT_EQ(m_home.Read("target"), "old\n");
+}
+
+TEST_F(KZCDebugDumpTest, ALinkToNothingMakesNoFile)
+{
+    std::filesystem::create_symlink(m_home.Path("target"), m_home.Path(LOG_NAME));
+    SwitchOn();
+    EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+    EXPECT_FALSE(m_home.Has("target"));
+}
+
+TEST_F(KZCDebugDumpTest, AFileWithASecondNameIsNotWritten)
+{
+    const std::string strTarget = m_home.Write("target", "old\n");
+    std::filesystem::create_hard_link(strTarget, m_home.Path(LOG_NAME));
+    SwitchOn();
+    EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+    EXPECT_EQ(m_home.Read("target"), "old\n");
+}
+
+TEST_F(KZCDebugDumpTest, APipeThatNobodyReadsDoesntHang)
+{
+    ASSERT_EQ(::mkfifo(m_home.Path(LOG_NAME).c_str(), 0600), 0);
+    SwitchOn();
+    EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+}
+
+TEST_F(KZCDebugDumpTest, APipeThatSomebodyReadsGetsNothing)
+{
+    ASSERT_EQ(::mkfifo(m_home.Path(LOG_NAME).c_str(), 0600), 0);
+    const int nReader = ::open(m_home.Path(LOG_NAME).c_str(), O_RDONLY | O_NONBLOCK);
+    ASSERT_GE(nReader, 0);
+    SwitchOn();
+    EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+    char cByte = 0;
+    EXPECT_EQ(::read(nReader, &cByte, 1), 0);
+    ::close(nReader);
+}
+
+TEST_F(KZCDebugDumpTest, AFileOfSomebodyElseIsNotWritten)
+{
+    if (::geteuid() != 0)
+        GTEST_SKIP() << "only root can give a file away";
+    const std::string strPath = m_home.Write(LOG_NAME, "old\n");
+    ASSERT_EQ(::chown(strPath.c_str(), 65534, 65534), 0);
+    SwitchOn();
+    EXPECT_FALSE(KZCDebugDump::WriteMessage("text", true));
+    EXPECT_EQ(Written(), "old\n");
+}
+
+TEST_F(KZCDebugDumpTest, AFileThatOthersMayReadIsMadePrivateBeforeItIsWritten)
+{
+    const std::string strPath = m_home.Write(LOG_NAME, "old\n");
+    ASSERT_EQ(::chmod(strPath.c_str(), 0644), 0);
+    SwitchOn();
+    EXPECT_TRUE(KZCDebugDump::WriteMessage("new\n", true));
+    EXPECT_EQ(Written(), "old\nnew\n");
+    EXPECT_EQ(ModeOf(strPath), 0600U);
+}
+
+// The folder in which the process stands is nobody's home.
+TEST_F(KZCDebugDumpTest, WithoutAnyHomeNoFileComesIntoBeing)
+{
+    constexpr unsigned NOT_IN_THE_DATABASE = 54321;
+    if (::geteuid() != 0 || ::getpwuid(NOT_IN_THE_DATABASE) != nullptr)
+        GTEST_SKIP() << "only root can become somebody whom the user database doesn't know";
+    ASSERT_EQ(::chmod(m_home.Path().c_str(), 0777), 0);
+    const pid_t nChild = ::fork();
+    if (nChild == 0) {
+        ::unsetenv("HOME");
+        if (::chdir(m_home.Path().c_str()) != 0 || ::setuid(NOT_IN_THE_DATABASE) != 0)
+            ::_exit(2);
+        SwitchOn();
+        KZCDebugDump::OutputMessage("message", 0);
+        ::_exit(KZCDebugDump::WriteMessage("text", true) ? 1 : 0);
+    }
+    int nStatus = 0;
+    ASSERT_EQ(::waitpid(nChild, &nStatus, 0), nChild);
+    EXPECT_TRUE(WIFEXITED(nStatus));
+    EXPECT_EQ(WEXITSTATUS(nStatus), 0);
+    EXPECT_THAT(m_home.Names(), IsEmpty());
+}
+
+TEST_F(KZCDebugDumpTest, AnEmptyHomeVariableCountsAsNone)
+{
+    const Environment home("HOME", "");
+    const passwd* pUser = ::getpwuid(::getuid());
+    ASSERT_NE(pUser, nullptr);
+    EXPECT_STREQ(KZCMacOSNative::homeDirectory(), pUser->pw_dir);
+}
+
+// --- what can't be decoded ---
+
+TEST_F(KZCDebugDumpTest, ATextThatMixesEncodingsKeepsWhatCanBeDecoded)
+{
+    SwitchOn();
+    // 82 A0 is a kana of Shift_JIS.
+    KZCDebugDump::OutputLog("a.cpp", 1, "A::B", "値=\x82\xA0,国税");
+    EXPECT_EQ(Written(),
+              "--2019-05-01 09:30:00 A::B--\n値=\uFFFD\uFFFD,国税\n[File:a.cpp Line:1]\n\n");
+}
+
+TEST_F(KZCDebugDumpTest, AFirstLineThatIsCutInsideACharacterKeepsTheRest)
+{
+    SwitchOn();
+    // 22 characters and 488 letters stand in front of the one of which a single byte is left.
+    KZCDebugDump::OutputLog("a.cpp", 1, (std::string(488, 'f') + "国税").c_str(), "message");
+    EXPECT_EQ(Written(), "--2019-05-01 09:30:00 " + std::string(488, 'f') +
+                             "\uFFFDmessage\n[File:a.cpp Line:1]\n\n");
+}
+
+TEST_F(KZCDebugDumpTest, AShiftJisValueThatBreaksOffKeepsTheRest)
+{
+    SwitchOn();
+    KZCDebugDump::OutputValid(HE70001E, 1, 2, "ab\x82\xA0\x82", false);
+    EXPECT_EQ(Written(),
+              "Valid Message[HE70001E]  値が入力されていません。\n"
+              "record=0001 column=00002 value=abあ\uFFFD\n\n");
+}
+
+TEST_F(KZCDebugDumpTest, AShiftJisByteThatIsNoPartOfACharacterDoesntTakeItsNeighbour)
+{
+    SwitchOn();
+    EXPECT_TRUE(
+        KZCDebugDump::WriteMessage("a\x82,\x80"
+                                   "b",
+                                   false));
+    EXPECT_EQ(Written(),
+              "a\uFFFD,\uFFFD"
+              "b");
+}
+
+TEST_F(KZCDebugDumpTest, EachUtf8SequenceThatIsNotWellFormedIsReplacedOnce)
+{
+    SwitchOn();
+    // A character without its last byte, a surrogate (each byte), an overlong form (each byte), one
+    // beyond U+10FFFF (each byte), a byte that begins nothing, a whole character of four bytes.
+    EXPECT_TRUE(
+        KZCDebugDump::WriteMessage("\xE3\x81|\xED\xA0\x80|\xC0\xAF|\xF4\x90\x80\x80|\xBF|"
+                                   "\xF0\xA0\xAE\xB7|\xF0\xA0\xAE",
+                                   true));
+    EXPECT_EQ(Written(),
+              "\uFFFD|\uFFFD\uFFFD\uFFFD|\uFFFD\uFFFD|\uFFFD\uFFFD\uFFFD\uFFFD|\uFFFD|𠮷|\uFFFD");
 }
 
 TEST_F(KZCDebugDumpTest, WriteMessageTellsThatTheFileWasMadeOrOpened)
@@ -378,6 +537,18 @@ TEST_F(KZCDebugDumpTest, OutputValidDoesntCutTheValue)
               "Valid Message[HE70001E]  値が入力されていません。\n"
               "record=12345 column=123456 value=" +
                   strValue + "\n\n");
+}
+
+TEST_F(KZCDebugDumpTest, OutputValidCutsRecordColumnAndNumberTo32Bits)
+{
+    SwitchOn();
+    KZCDebugDump::OutputValid(HE70001E, 4294967297, 8589934594, "x", true);
+    KZCDebugDump::OutputValid(HE70001E, 2147483648, 1, 4294967303L);
+    EXPECT_EQ(Written(),
+              "Valid Message[HE70001E]  値が入力されていません。\n"
+              "record=0001 column=00002 value=x\n\n"
+              "Valid Message[HE70001E]  値が入力されていません。\n"
+              "record=-2147483648 column=00001 value=7\n\n");
 }
 
 TEST_F(KZCDebugDumpTest, OutputValidShowsANumber)

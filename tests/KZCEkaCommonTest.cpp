@@ -6,6 +6,8 @@
 
 #include "Fault.h"
 #include "support/Bundle.h"
+#include "support/DebugLog.h"
+#include "support/LogEntries.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
 
@@ -186,6 +188,41 @@ TEST_F(KZCEkaCommonTest, ConvertSPCharOfNullIsEmptyInBothModes)
 TEST_F(KZCEkaCommonTest, ConvertSPCharOfInvalidUtf8ThrowsTheFault)
 {
     EXPECT_EQ(Thrown([] { static_cast<void>(KZCEkaCommon::ConvertSPChar("\xE3")); }), FAULT);
+}
+
+TEST_F(KZCEkaCommonTest, AFaultOfMtoWStringIsLoggedWithoutAMessage)
+{
+    const DebugLog log;
+    EXPECT_EQ(Thrown([] { static_cast<void>(KZCEkaCommon::MtoWString("\xE3")); }), FAULT);
+    EXPECT_EQ(LogEntries(log), (std::vector<LogEntry>{{"KZCEkaCommon::MtoWString", ""}}));
+}
+
+TEST_F(KZCEkaCommonTest, AFaultOfConvertSPCharIsLoggedByBothOperationsInBothModes)
+{
+    const std::vector<LogEntry> vecExpected = {{"KZCEkaCommon::MtoWString", ""},
+                                               {"KZCEkaCommon::ConvertSPChar", ""}};
+    for (const auto eMode : {KZCEkaCommon::EXEC_MODE_ZEKA, KZCEkaCommon::EXEC_MODE_OTHER}) {
+        KZCEkaCommon::setExecMode(eMode);
+        const DebugLog log;
+        EXPECT_EQ(Thrown([] { static_cast<void>(KZCEkaCommon::ConvertSPChar("\xE3")); }), FAULT);
+        EXPECT_EQ(LogEntries(log), vecExpected);
+    }
+}
+
+TEST_F(KZCEkaCommonTest, AFaultOfEitherVariantIsThatOfMtoWString)
+{
+    const DebugLog log;
+    EXPECT_EQ(Thrown([] { static_cast<void>(KZCEkaCommon::ConvertSPCharZeka("\xE3")); }), FAULT);
+    EXPECT_EQ(Thrown([] { static_cast<void>(KZCEkaCommon::ConvertSPCharFinance("\xE3")); }), FAULT);
+    EXPECT_EQ(LogEntries(log), (std::vector<LogEntry>{{"KZCEkaCommon::MtoWString", ""},
+                                                      {"KZCEkaCommon::MtoWString", ""}}));
+}
+
+TEST_F(KZCEkaCommonTest, ConvertSPCharFinanceReadsShiftJisDuringACheck)
+{
+    KZCEkaCommon::SetCsvCheckFlag(true);
+    EXPECT_EQ(KZCEkaCommon::ConvertSPCharFinance("a\x82\xA0\x81\x60"), u"aあ\uFF5E");
+    EXPECT_EQ(KZCEkaCommon::ConvertSPCharFinance("a\x82"), u"");
 }
 
 // --- escaping ---

@@ -4,7 +4,9 @@
 
 #include "Fault.h"
 #include "support/Bundle.h"
+#include "support/DebugLog.h"
 #include "support/Environment.h"
+#include "support/LogEntries.h"
 #include "support/LogText.h"
 #include "support/ResetState.h"
 #include "support/TempFolder.h"
@@ -258,11 +260,27 @@ TEST_F(KZCEkaTaxOfficesTest, AQuestionBeforeInitializeThrowsTheFault)
 TEST_F(KZCEkaTaxOfficesTest, AMissingFileIsLogged)
 {
     const Bundle bundle(std::nullopt, std::nullopt);
-    const std::string strMessages = MessagesOf([] { Thrown([] { Offices().Initialize(); }); });
-    EXPECT_TRUE(
-        strMessages.ends_with("TaxOffices.xmlの読み込みでエラーが発生しました。\n"
-                              "想定外エラーが発生しました。\n"))
-        << strMessages;
+    EXPECT_EQ(MessagesOf([] { Thrown([] { Offices().Initialize(); }); }),
+              "想定しないエラーが発生しました。\n"
+              "unable to open primary document entity '' (行番号: 0, 列番号: 0)\n"
+              "TaxOffices.xmlの読み込みでエラーが発生しました。\n"
+              "想定外エラーが発生しました。\n");
+}
+
+TEST_F(KZCEkaTaxOfficesTest, AMalformedFileIsLogged)
+{
+    const Bundle bundle(std::nullopt, "<Root>\n</Rot>");
+    const DebugLog log;
+    Thrown([] { Offices().Initialize(); });
+    // The end tag's name begins at the third character of the second line.
+    EXPECT_EQ(
+        LogEntries(log),
+        (std::vector<LogEntry>{
+            {"KZCXDom::Parse",
+             "想定しないエラーが発生しました。\n"
+             "expected end of tag 'Root' (行番号: 2, 列番号: 3)"},
+            {"KZCEkaTaxOffices::Initialize", "TaxOffices.xmlの読み込みでエラーが発生しました。"},
+            {"KZCEkaTaxOffices::Initialize", "想定外エラーが発生しました。"}}));
 }
 
 TEST_F(KZCEkaTaxOfficesTest, AQuestionBeforeInitializeIsLogged)

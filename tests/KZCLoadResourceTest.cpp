@@ -9,6 +9,9 @@
 
 namespace {
 
+// What stands beside the code, in its prefix and in an empty variable:
+// tests/probe/resource_folder.sh.
+
 constexpr const char* VARIABLE = "KZEKAMOK_BUNDLE";
 
 TEST(KZCLoadResourceTest, TheEnvironmentNamesTheFolder)
@@ -39,17 +42,6 @@ TEST(KZCLoadResourceTest, AFileNamedByTheEnvironmentIsNoFolder)
     EXPECT_EQ(KZCLoadResource::getBundlePath(), "");
 }
 
-TEST(KZCLoadResourceTest, AnEmptyVariableCountsAsNone)
-{
-    std::string strWithout;
-    {
-        const Environment variable(VARIABLE, std::nullopt);
-        strWithout = KZCLoadResource::getBundlePath();
-    }
-    const Environment variable(VARIABLE, "");
-    EXPECT_EQ(KZCLoadResource::getBundlePath(), strWithout);
-}
-
 TEST(KZCLoadResourceTest, EveryCallLooksAnew)
 {
     const TempFolder folder;
@@ -70,6 +62,23 @@ TEST(KZCLoadResourceTest, APathCountsByItsLastComponent)
     const Bundle bundle;
     EXPECT_EQ(KZCLoadResource::getPathName("a/b/TaxOffices.xml"), bundle.Path("TaxOffices.xml"));
     EXPECT_EQ(KZCLoadResource::getPathName("/TaxOffices.xml"), bundle.Path("TaxOffices.xml"));
+}
+
+TEST(KZCLoadResourceTest, ATrailingSeparatorIsNoComponent)
+{
+    const Bundle bundle;
+    EXPECT_EQ(KZCLoadResource::getPathName("TaxOffices.xml/"), bundle.Path("TaxOffices.xml"));
+    EXPECT_EQ(KZCLoadResource::getPathName("a/TaxOffices.xml//"), bundle.Path("TaxOffices.xml"));
+    EXPECT_EQ(KZCLoadResource::getPathName("/"), "");
+    EXPECT_EQ(KZCLoadResource::getPathName("//"), "");
+}
+
+TEST(KZCLoadResourceTest, AFolderIsNoFile)
+{
+    const Bundle bundle;
+    bundle.Write("Finance/PGE2015vld.xml", "");
+    EXPECT_EQ(KZCLoadResource::getPathName("Finance"), "");
+    EXPECT_EQ(KZCLoadResource::getPathName("Finance/"), "");
 }
 
 TEST(KZCLoadResourceTest, AFileWithoutAnExtensionIsFound)

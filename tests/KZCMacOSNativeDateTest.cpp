@@ -8,6 +8,7 @@
 
 #include "Clock.h"
 #include "KZCMacOSNative.h"
+#include "support/Environment.h"
 #include "support/ResetState.h"
 
 namespace {
@@ -389,6 +390,91 @@ TEST_F(KZCMacOSNativeNowTest, PadsAYearOfTheCentury)
 {
     SetClock(2005, 12, 31, 23, 59, 59);
     EXPECT_EQ(KZCMacOSNative::dateTimeNow("yyMMdd", "HHmmssmm"), "051231 23595959");
+}
+
+struct PatternCase
+{
+    const char* szName;
+    const char* szPattern;
+    const char* szExpected;
+};
+
+class KZCMacOSNativePatternTest : public KZCMacOSNativeNowTest,
+                                  public testing::WithParamInterface<PatternCase>
+{};
+
+// Wednesday, 1 May 2019, 09:30:07, the 121st day of the year.
+TEST_P(KZCMacOSNativePatternTest, DateTimeNowRendersForJapan)
+{
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow(GetParam().szPattern, nullptr), GetParam().szExpected);
+}
+
+constexpr PatternCase PATTERN_CASES[] = {
+    {"Era", "G GGGG GGGGG", "西暦 西暦 AD"},
+    {"Year", "y yy yyy yyyyy", "2019 19 2019 02019"},
+    {"WeekYear", "Y YY YYYY", "2019 19 2019"},
+    {"OtherYears", "u r", "2019 2019"},
+    {"Quarter", "Q QQ QQQ QQQQ q", "2 02 Q2 第2四半期 2"},
+    {"Month", "M MM MMM MMMM MMMMM L LL LLLL", "5 05 5月 5月 5月 5 05 5月"},
+    {"Week", "w ww W", "18 18 1"},
+    {"Day", "d dd D DDD F", "1 01 121 121 1"},
+    {"JulianDay", "g", "2458605"},
+    {"Weekday", "E EEE EEEE EEEEE e ee eee eeee c ccc", "水 水 水曜日 水 4 04 水 水曜日 4 水"},
+    {"HalfOfTheDay", "a aaaa", "午前 午前"},
+    {"Hour", "h hh H HH K KK k kk", "9 09 9 09 9 09 9 09"},
+    {"MinuteAndSecond", "m mm s ss", "30 30 7 07"},
+    {"Fraction", "S SSS A", "0 000 34207000"},
+    {"Quoted", "'y'y'' 'o''clock'", "y2019' o'clock"},
+    {"QuoteWithoutAnEnd", "y'y", "2019y"},
+    {"LettersWithoutAMeaning", "I jj 1:2年", "I jj 1:2年"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Patterns,
+                         KZCMacOSNativePatternTest,
+                         testing::ValuesIn(PATTERN_CASES),
+                         [](const auto& testCase) { return std::string(testCase.param.szName); });
+
+TEST_F(KZCMacOSNativeNowTest, HoursOfMidnightAndNoonHaveFourForms)
+{
+    SetClock(2019, 5, 1, 0, 0, 0);
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("a h H K k", nullptr), "午前 12 0 0 24");
+    SetClock(2019, 5, 1, 12, 0, 0);
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("a h H K k", nullptr), "午後 12 12 0 12");
+    SetClock(2019, 5, 1, 23, 0, 0);
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("a h H K k", nullptr), "午後 11 23 11 23");
+}
+
+// Weeks begin on Sunday; the one that holds 1 January is the first.
+TEST_F(KZCMacOSNativeNowTest, WeeksBeginOnSunday)
+{
+    SetClock(2019, 5, 4, 12, 0, 0);  // Saturday
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("w W e F", nullptr), "18 1 7 1");
+    SetClock(2019, 5, 5, 12, 0, 0);  // Sunday
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("w W e F", nullptr), "19 2 1 1");
+    SetClock(2018, 12, 29, 12, 0, 0);  // Saturday
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("YYYY w W F", nullptr), "2018 52 5 5");
+    SetClock(2018, 12, 30, 12, 0, 0);  // Sunday of the week with 1 January 2019
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("YYYY yyyy w W", nullptr), "2019 2018 1 6");
+    SetClock(2016, 12, 31, 12, 0, 0);  // Saturday, the 366th day
+    EXPECT_EQ(KZCMacOSNative::dateTimeNow("YYYY w D", nullptr), "2016 53 366");
+}
+
+TEST_F(KZCMacOSNativeNowTest, TimeZonesAreRenderedByTheirOffset)
+{
+    const auto render = [](const char* szZone) {
+        const Environment zone("TZ", szZone);
+        ::tzset();
+        const std::string strText =
+            KZCMacOSNative::dateTimeNow("z|zzzz|O|OOOO|Z|ZZZZ|ZZZZZ|X|XX|XXX|x|xxx", nullptr);
+        return strText;
+    };
+    EXPECT_EQ(render("JST-9"),
+              "JST|日本標準時|GMT+9|GMT+09:00|+0900|GMT+09:00|+09:00|+09|+0900|+09:00|+09|+09:00");
+    EXPECT_EQ(render("UTC0"), "UTC|GMT|GMT|GMT|+0000|GMT|Z|Z|Z|Z|+00|+00:00");
+    EXPECT_EQ(render("XST3:30"),
+              "XST|GMT-03:30|GMT-3:30|GMT-03:30|-0330|GMT-03:30|-03:30|-0330|-0330|-03:30|-0330|"
+              "-03:30");
+    ::tzset();
 }
 
 TEST_F(KZCMacOSNativeNowTest, WithoutASetTimeFollowsTheSystemsClock)

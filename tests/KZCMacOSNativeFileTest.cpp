@@ -11,6 +11,7 @@
 #include "KZCMacOSNative.h"
 #include "support/Environment.h"
 #include "support/FileSizeLimit.h"
+#include "support/PlatformFault.h"
 #include "support/ShiftJisText.h"
 #include "support/TempFolder.h"
 
@@ -555,6 +556,17 @@ TEST_F(KZCMacOSNativeFileTest, GetFilesUnderFolderWithoutAPathFails)
     EXPECT_FALSE(KZCMacOSNative::getFilesUnderFolder("", vecFiles));
 }
 
+TEST_F(KZCMacOSNativeFileTest, GetFilesUnderFolderThatBreaksOffFailsAndKeepsWhatItFound)
+{
+    for (const char* szName : {"a", "b", "c"})
+        m_folder.Write(szName, "");
+    std::vector<std::string> vecFiles;
+    const PlatformFault::Listing listing(4);  // with "." and ".." among them or not
+    EXPECT_FALSE(KZCMacOSNative::getFilesUnderFolder(m_folder.Path().c_str(), vecFiles));
+    EXPECT_GE(vecFiles.size(), 2U);
+    EXPECT_LT(vecFiles.size(), 4U);
+}
+
 // --- the user's home ---
 
 TEST_F(KZCMacOSNativeFileTest, HomeDirectoryIsThatOfTheEnvironment)
@@ -607,6 +619,52 @@ TEST_F(KZCMacOSNativeFileTest, AppendToLogMakesAFileForItsOwnerAlone)
     EXPECT_TRUE(bAppended);
     EXPECT_EQ(m_folder.Read("a.log"), "first");
     EXPECT_EQ(ModeOf(m_folder.Path("a.log")), 0600U);
+}
+
+TEST_F(KZCMacOSNativeFileTest, AppendToLogHasTheBytesOnTheDisk)
+{
+    const std::size_t nBefore = PlatformFault::Flushes();
+    EXPECT_TRUE(KZCMacOSNative::appendToLog(m_folder.Path("a.log").c_str(), "a"));
+    EXPECT_TRUE(KZCMacOSNative::appendToLog(m_folder.Path("a.log").c_str(), "b"));
+    EXPECT_EQ(PlatformFault::Flushes() - nBefore, 2U);
+}
+
+TEST_F(KZCMacOSNativeFileTest, WriteSJISFileHasANewAndAnOldFileOnTheDisk)
+{
+    const std::size_t nBefore = PlatformFault::Flushes();
+    EXPECT_TRUE(KZCMacOSNative::writeSJISFile(m_folder.Path("a.csv").c_str(), "a", true));
+    EXPECT_EQ(PlatformFault::Flushes() - nBefore, 1U);
+    EXPECT_TRUE(KZCMacOSNative::writeSJISFile(m_folder.Path("a.csv").c_str(), "b", true));
+    EXPECT_EQ(PlatformFault::Flushes() - nBefore, 2U);
+}
+
+TEST_F(KZCMacOSNativeFileTest, WriteFileTellsWhatFailed)
+{
+    using Mode = KZCMacOSNative::WriteMode;
+    using Result = KZCMacOSNative::WriteResult;
+    const auto write = [](const std::string& strPath) {
+        return KZCMacOSNative::writeFile(strPath.c_str(), "text", Mode::PLAIN);
+    };
+    EXPECT_EQ(write(m_folder.Path("a")), Result::WRITTEN);
+    EXPECT_EQ(write(m_folder.Path("none/a")), Result::NOT_OPENED);
+    EXPECT_EQ(write(m_folder.Path()), Result::NOT_OPENED);
+    EXPECT_EQ(write("/dev/full"), Result::NOT_WRITTEN);
+}
+
+TEST_F(KZCMacOSNativeFileTest, ReadStreamTellsWhatFailed)
+{
+    using Result = KZCMacOSNative::ReadResult;
+    std::string strBytes = "old";
+    EXPECT_EQ(KZCMacOSNative::readStream(m_folder.Write("a", "text").c_str(), strBytes),
+              Result::READ);
+    EXPECT_EQ(strBytes, "text");
+    EXPECT_EQ(KZCMacOSNative::readStream("/dev/null", strBytes), Result::READ);
+    EXPECT_EQ(strBytes, "");
+    EXPECT_EQ(KZCMacOSNative::readStream(m_folder.Path("none").c_str(), strBytes),
+              Result::NOT_OPENED);
+    EXPECT_EQ(KZCMacOSNative::readStream(nullptr, strBytes), Result::NOT_OPENED);
+    EXPECT_EQ(KZCMacOSNative::readStream(m_folder.Path().c_str(), strBytes), Result::NOT_READ);
+    EXPECT_EQ(KZCMacOSNative::readStream("/dev/zero", strBytes), Result::NOT_READ);
 }
 
 TEST_F(KZCMacOSNativeFileTest, AppendToLogAppends)

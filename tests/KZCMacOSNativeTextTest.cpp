@@ -192,6 +192,10 @@ constexpr SubStringCase SUB_STRING_CASES[] = {
     {"EmptyText", "", 0, 4, ""},
     {"LargestLength", "平成31", 1, static_cast<unsigned long>(-1), "成31"},
     {"InvalidTextHasNoCharacters", "ab\xE3", 0, 1, "ab\xE3"},
+    {"BothHalvesOfAPair", "a𠮷b", 1, 2, "𠮷"},
+    // Half a pair has no form in UTF-8, and so has no text with one in it.
+    {"FirstHalfOfAPair", "a𠮷b", 0, 2, ""},
+    {"SecondHalfOfAPair", "a𠮷b", 2, 2, ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(Texts,
