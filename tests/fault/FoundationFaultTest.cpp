@@ -67,8 +67,8 @@ protected:
 
 TEST_F(FoundationFaultTest, StringTrimGivesTheEmptyText)
 {
-    ExpectEmptyOr(LONG_TEXT, true,
-                  [] { return KZCEkaCommon::StringTrim((" " + LONG_TEXT).c_str()); });
+    const std::string strBlank = " " + LONG_TEXT;
+    ExpectEmptyOr(LONG_TEXT, true, [&] { return KZCEkaCommon::StringTrim(strBlank.c_str()); });
     const std::string strText = LONG_TEXT + "　";
     ExpectEmptyOr(LONG_TEXT, true, [&] { return KZCEkaCommon::StringTrim(strText); });
 }
@@ -182,14 +182,14 @@ TEST_F(FoundationFaultTest, TaxOfficesWithALostNameAreNotKept)
                         "<Root><TaxOffice OfficeType=\"5\" OfficeCode=\"00101\" "
                         "OfficeName=\"" +
                             strName + "\"/></Root>");
+    KZCEkaTaxOffices& offices = *KZCEkaTaxOffices::instance();
     std::optional<int> raised = FAULT;
     for (std::size_t nNumber = 1; raised; ++nNumber) {
         AllocationFault::Arm(nNumber, Kind::Once);
-        raised = Raised([] { KZCEkaTaxOffices::instance()->Initialize(); });
+        raised = Raised([&] { offices.Initialize(); });
         AllocationFault::Disarm();
         if (!raised) {
-            EXPECT_TRUE(KZCEkaTaxOffices::instance()->IsValidName("00101", strName.c_str()))
-                << nNumber;
+            EXPECT_TRUE(offices.IsValidName("00101", strName.c_str())) << nNumber;
         }
     }
 }
