@@ -8,6 +8,7 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Fault.h"
@@ -51,6 +52,33 @@ TEST_F(FinanceCsvTest, NewFileIsEmpty)
     EXPECT_EQ(csv.GetColInfo(), ColInfos{});
     EXPECT_EQ(csv.GetEmptyCheckMode(), 0);
     EXPECT_EQ(csv.GetNonCRLFRecordCount(), 0);
+}
+
+/// Removes its definition file behind the first data record.
+class FileRemovingCsv final : public KZCEkaCsvFileFinance
+{
+public:
+    explicit FileRemovingCsv(std::string strFile) : m_strFile(std::move(strFile)) {}
+
+    int ColumnTerm(std::string& strBuffer, Record& record, bool bEndOfRecord) override
+    {
+        const int nStatus = KZCEkaCsvFileFinance::ColumnTerm(strBuffer, record, bEndOfRecord);
+        if (!m_vecRecord.empty())
+            std::filesystem::remove(m_strFile);
+        return nStatus;
+    }
+
+private:
+    std::string m_strFile;
+};
+
+TEST_F(FinanceCsvTest, OnlyTheFirstRecordReadsTheDefinitionFile)
+{
+    const std::string strFile = m_bundle.Path("Finance/PGE2015vld.xml");
+    FileRemovingCsv csv(strFile);
+    EXPECT_EQ(csv.ReadFile(Write("\n101,1,a\n\n101,2,b\n")), STATUS_OK);
+    EXPECT_FALSE(std::filesystem::exists(strFile));
+    EXPECT_EQ(csv.GetRecordCount(), 2);
 }
 
 TEST_F(FinanceCsvTest, ReadsRecordsTypeIdAndReport)
@@ -1209,7 +1237,7 @@ TEST_F(FinanceCsvTest, StartRowBelowOneIsLoggedWithoutAText)
                              ColInfos{{1, 1, 2, 0}, {0, 0, 2, 0}});
     const DebugLog log;
     EXPECT_EQ(Check(csv), REFUSES);
-    EXPECT_THAT(LogMessages(log), testing::IsEmpty());
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(""));
     EXPECT_THAT(log.Text(), testing::HasSubstr(" KZCEkaCsvFileFinance::checkMaxRecord--\n[File:"));
 }
 

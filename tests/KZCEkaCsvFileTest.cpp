@@ -4,9 +4,11 @@
 
 #include <climits>
 #include <cstdint>
+#include <filesystem>
 #include <map>
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "Fault.h"
@@ -216,10 +218,39 @@ TEST_F(CsvFileTest, EndOfARefusedRecordStoresNothing)
     std::string strBuffer = "b";
     Record record = {"stop"};
     EXPECT_EQ(csv.ColumnTerm(strBuffer, record, true), STATUS_NG);
+    EXPECT_EQ(strBuffer, "");
+    EXPECT_EQ(record, (Record{"stop", "b"}));
     EXPECT_EQ(csv.GetRecords(), Records{});
 }
 
 // ---- reading -----------------------------------------------------------------------------------
+
+/// Removes the definition index behind its first data record.
+class IndexRemovingCsv final : public OpenCsv
+{
+public:
+    explicit IndexRemovingCsv(std::string strIndex) : m_strIndex(std::move(strIndex)) {}
+
+    bool ValidateRecord(const Record& record) override
+    {
+        const bool bValid = KZCEkaCsvFile::ValidateRecord(record);
+        if (record.size() > 1)
+            std::filesystem::remove(m_strIndex);
+        return bValid;
+    }
+
+private:
+    std::string m_strIndex;
+};
+
+TEST_F(CsvFileTest, OnlyTheFirstRecordOpensTheIndex)
+{
+    const Bundle bundle;
+    IndexRemovingCsv csv(bundle.Path("KZEkaDefine.xml"));
+    EXPECT_EQ(csv.ReadFile(Write("\n003,1,a\n\n003,2,b\n")), STATUS_OK);
+    EXPECT_FALSE(std::filesystem::exists(bundle.Path("KZEkaDefine.xml")));
+    EXPECT_EQ(csv.GetRecords(), (Records{{""}, {"003", "1", "a"}, {""}, {"003", "2", "b"}, {""}}));
+}
 
 TEST_F(CsvFileTest, NewFileIsEmpty)
 {

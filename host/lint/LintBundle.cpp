@@ -90,6 +90,16 @@ constexpr LintTexts SHADOWED_PARENT = {
      "idがreportIdと同じです。これを親とするitemは、このitemではなくreportの下に入ります。"},
     {"Give the item another id.", "別のidにしてください。"}};
 
+constexpr LintTexts TOO_DEEP = {
+    {"The item hangs more than {1} levels below the report: the load fails.",
+     "itemがreportの下{1}階層を超えるため、読み込みに失敗します。"},
+    {"Hang it below a parent that stands higher.", "より上の階層の親の下に入れてください。"}};
+constexpr LintTexts TOO_LONG = {
+    {"The search for the parent \"{2}\" passes more than {1} items: the load fails.",
+     "親「{2}」の検索が{1}個を超えるitemを通るため、読み込みに失敗します。"},
+    {"Let fewer names stand once per generation above the item, or use fewer items.",
+     "itemより上で世代ごとに置かれる名前を減らすか、itemを減らしてください。"}};
+
 LintCheck ReadLintCheck(const XmlElement& element, long lItemColumn, bool bOuter)
 {
     LintCheck check;
@@ -330,12 +340,17 @@ public:
         m_bounds = {};
         const bool bPlaced = Search(REPORT, nItem, NOT_FOUND) != NOT_FOUND;
         m_form.vecItem[nItem].bPlaced = bPlaced;
+        m_form.bTooDeep |= m_bounds.IsStopped();
         return bPlaced;
     }
+
+    /// Why the search for the last item was given up, if it was: the levels, or its length.
+    bool IsTooDeep() const { return m_bounds.IsTooDeep(); }
 
     /// Hangs an item below one that was not placed itself, so that one mistake is one finding.
     bool PlaceBelowUnplaced(std::size_t nItem)
     {
+        m_bounds = {};
         for (std::size_t nRoot = nItem; nRoot-- > 0;)
             if (!m_form.vecItem[nRoot].bPlaced && Search(nRoot, nItem, NOT_FOUND) != NOT_FOUND)
                 return true;
@@ -355,15 +370,12 @@ private:
 
     int SearchBase(std::size_t nNode, std::size_t nItem, int nDefault)
     {
-        if (!m_bounds.Enter())
-            return GiveUp();
         const LintItem& item = m_form.vecItem[nItem];
         int nResult = nDefault;
         if (item.strParent == Name(nNode)) {
             const std::string& strGeneration = Generation(nNode);
             if (strGeneration.empty() || strGeneration == item.strGeneration) {
                 Attach(nNode, nItem);
-                m_bounds.Leave();
                 return 0;
             }
             if (item.strGeneration.empty()) {
@@ -371,15 +383,7 @@ private:
                 nResult = ATTACHED_TO_ONE;
             }
         }
-        const auto& vecChild = Children(nNode);
-        for (std::size_t nChild = vecChild.size(); nChild > 0 && nResult != 0; --nChild) {
-            if (!m_bounds.Step())
-                return GiveUp();
-            if (vecChild[nChild - 1] != nItem)
-                nResult = Search(vecChild[nChild - 1], nItem, nResult);
-        }
-        m_bounds.Leave();
-        return nResult;
+        return SearchChildren(nNode, nItem, nResult);
     }
 
     int SearchFamily(std::size_t nNode, std::size_t nItem, int nDefault)
@@ -390,25 +394,28 @@ private:
             Attach(nNode, nItem);
             return 0;
         }
-        if (!m_bounds.Enter())
-            return GiveUp();
-        int nResult = nDefault;
-        const auto& vecChild = Children(nNode);
-        for (std::size_t nChild = vecChild.size(); nChild > 0 && nResult != 0; --nChild)
-            nResult = Search(vecChild[nChild - 1], nItem, nResult);
-        m_bounds.Leave();
-        return nResult;
+        return SearchChildren(nNode, nItem, nDefault);
     }
 
-    /// The library's load fails here.
-    int GiveUp()
+    int SearchChildren(std::size_t nNode, std::size_t nItem, int nResult)
     {
-        m_form.bTooDeep = true;
-        return 0;
+        const auto& vecChild = Children(nNode);
+        for (std::size_t nChild = vecChild.size(); nChild > 0 && nResult != 0; --nChild) {
+            if (!m_bounds.Step())
+                return 0;
+            if (vecChild[nChild - 1] == nItem || !m_bounds.HasRoomBelow())
+                continue;
+            m_bounds.Enter();
+            nResult = Search(vecChild[nChild - 1], nItem, nResult);
+            m_bounds.Leave();
+        }
+        return nResult;
     }
 
     void Attach(std::size_t nNode, std::size_t nItem)
     {
+        if (!m_bounds.HasRoomBelow())
+            return;
         Children(nNode).push_back(nItem);
         m_form.vecItem[nItem].bTop |= nNode == REPORT;
     }
@@ -431,6 +438,20 @@ private:
     LintForm& m_form;
     SearchBounds m_bounds;
 };
+
+void ReportBeyondLimit(const LintFile& file,
+                       const LintItem& item,
+                       bool bTooDeep,
+                       LintReport& report)
+{
+    const LintPlace place = item.At(file.strName);
+    if (bTooDeep)
+        report.Add(LintRule::BeyondLimit, place, TOO_DEEP,
+                   {std::to_string(DefinitionLimits::TREE_DEPTH)});
+    else
+        report.Add(LintRule::BeyondLimit, place, TOO_LONG,
+                   {std::to_string(DefinitionLimits::SEARCH_STEPS), item.strParent});
+}
 
 void ReportUnplaced(const LintFile& file,
                     const LintForm& form,
@@ -537,7 +558,10 @@ void PlaceItems(const LintFile& file, LintForm& form, LintReport& report)
 {
     Placing placing(file, form);
     for (std::size_t nItem = 0; nItem < form.vecItem.size() && !form.bTooDeep; ++nItem) {
-        if (placing.Place(nItem))
+        const bool bPlaced = placing.Place(nItem);
+        if (form.bTooDeep)
+            ReportBeyondLimit(file, form.vecItem[nItem], placing.IsTooDeep(), report);
+        else if (bPlaced)
             ReportAmbiguous(file, form, nItem, report);
         else if (!placing.PlaceBelowUnplaced(nItem))
             ReportUnplaced(file, form, nItem, report);

@@ -13,6 +13,13 @@ constexpr LintTexts DIFFERENT = {
     {R"({1} is "{2}"; the library's catalogue has "{3}" for type id {4}.)",
      "{1}は「{2}」ですが、ライブラリの一覧では申請区分{4}は「{3}」です。"},
     {"Write \"{3}\".", "「{3}」と書いてください。"}};
+constexpr LintTexts OTHER_PROCEDURE = {
+    {"procId is \"{1}\", but type id {3} is procedure \"{2}\": what a check and a document tell "
+     "comes "
+     "from their files, so the two tell different procedures.",
+     "procIdは「{1}」ですが、申請区分{3}の手続は「{2}」です。"
+     "チェックと文書はそれぞれのファイルの値を使うため、手続が食い違います。"},
+    {"Write \"{2}\".", "「{2}」と書いてください。"}};
 constexpr LintTexts UNKNOWN_REPORT = {
     {"The report \"{1}\" isn't one of the catalogue's for type id {2}: {3}.",
      "report「{1}」は、一覧にある申請区分{2}のもの（{3}）ではありません。"},
@@ -66,6 +73,15 @@ void LookAtTypeIds(const LintFile& file,
                        MISSING_REPORT, {strTypeId});
 }
 
+void CompareProcedure(const LintFile& file, const LintForm& form, LintReport& report)
+{
+    const std::string& strProcId = form.pElement->Attribute("procId");
+    // What is missing has a rule of its own.
+    if (!strProcId.empty() && strProcId != file.info.procId)
+        report.Add(LintRule::CatalogueMismatch, form.At(file.strName), OTHER_PROCEDURE,
+                   {strProcId, file.info.procId, file.strTypeId});
+}
+
 void Compare(const LintFile& file,
              const LintForm& form,
              const char* szAttribute,
@@ -86,7 +102,7 @@ void LookAtReports(const LintFile& file, LintReport& report)
     auto latest = listReport.begin();
     std::set<std::string> setSeen;
     for (const LintForm& form : file.vecForm) {
-        Compare(file, form, "procId", file.info.procId, report);
+        CompareProcedure(file, form, report);
         Compare(file, form, "procVR", file.info.strVR, report);
         setSeen.insert(form.strReportId);
         const auto known =

@@ -7,6 +7,7 @@
 #include "GenerationRules.h"
 #include "ITDataTables.h"
 #include "JoinedText.h"
+#include "definition/DefinitionLimits.h"
 #include "definition/KZCEkaMOKDefineNode.h"
 #include "lint/LintTopics.h"
 
@@ -101,6 +102,17 @@ constexpr LintTexts REPEAT_NO_ROWS = {
      "繰り返す先頭にはstartRowとendRow（どちらも1以上）が必要です。何も繰り返されません。"},
     {"Give the records that the head is made of.", "先頭を作るレコードを書いてください。"}};
 
+constexpr LintTexts HEAD_ROWS = {
+    {"The rows {1} to {2} of the repeated head lie beyond {3}: the conversion fails.",
+     "繰り返す先頭の行{1}～{2}が上限{3}を超えています。変換に失敗します。"},
+    {"Give the records that the head is made of.", "先頭を作るレコードを書いてください。"}};
+constexpr LintTexts HEAD_NODES = {
+    {"The repeated heads of a full file write {1} items, more than {2}: its conversion fails.",
+     "最大件数のファイルでは、繰り返す先頭が{1}個のitemを書き、上限{2}"
+     "を超えます。変換に失敗します。"},
+    {"Let the heads have fewer rows, or the pages more records.",
+     "先頭の行を減らすか、1ページのレコードを増やしてください。"}};
+
 /// Elements of the IT section with an ID.
 template <class Table>
 std::set<std::string> Identifiers(const Table& table)
@@ -146,6 +158,7 @@ public:
                 LookAtRepeat(item);
             }
         }
+        LookAtHeads();
     }
 
 private:
@@ -249,6 +262,44 @@ private:
                 {std::to_string(item.lStartRow), std::to_string(item.lEndRow)});
     }
 
+    /// \return Whether the library refuses to write the rows.
+    static bool IsHeadBeyondLimit(const LintItem& item)
+    {
+        using DefinitionLimits::HEAD_ROW;
+        return item.lStartRow <= item.lEndRow &&
+               (item.lStartRow < -HEAD_ROW || item.lEndRow > HEAD_ROW);
+    }
+
+    long CountNodes(const LintItem& item) const
+    {
+        long lNodes = 1;
+        for (const std::size_t nChild : item.vecChild)
+            lNodes += CountNodes(m_form.vecItem[nChild]);
+        return lNodes;
+    }
+
+    /// What the heads of all pages write for a file of as many records as there may be.
+    void LookAtHeads()
+    {
+        if (m_file.eRole != LintRole::Document || !m_file.IsMulti() || m_form.bTooDeep)
+            return;
+        long lNodes = 0;
+        for (const std::size_t nItem : m_form.vecTop) {
+            const LintItem& item = m_form.vecItem[nItem];
+            if (item.pElement->Attribute("repeatTopTag") == "1" && item.lStartRow <= item.lEndRow &&
+                !IsHeadBeyondLimit(item))
+                lNodes += (item.lEndRow - item.lStartRow + 1) * CountNodes(item);
+        }
+        const long lMax = m_file.MaxRecord();
+        const long lFirst = std::clamp(m_form.lStartRow, 1L, lMax);
+        const long lLast = m_form.lEndRow > 0 ? std::min(m_form.lEndRow, lMax) : lMax;
+        const long lStep = m_form.lStartRow != 0 ? std::max(m_form.lStepRow, 1L) : 1;
+        lNodes *= std::max(lLast - lFirst, 0L) / lStep + 1;
+        if (lNodes > DefinitionLimits::HEAD_NODES)
+            m_report.Add(LintRule::BeyondLimit, m_form.At(m_file.strName), HEAD_NODES,
+                         {std::to_string(lNodes), std::to_string(DefinitionLimits::HEAD_NODES)});
+    }
+
     void LookAtRepeat(const LintItem& item)
     {
         if (m_file.eRole != LintRole::Document || item.pElement->Attribute("repeatTopTag") != "1")
@@ -257,6 +308,10 @@ private:
             Add(LintRule::BadRepeat, item, REPEAT_ELSEWHERE, {});
         else if (!item.bTop)
             Add(LintRule::BadRepeat, item, REPEAT_BELOW, {});
+        else if (IsHeadBeyondLimit(item))
+            Add(LintRule::BeyondLimit, item, HEAD_ROWS,
+                {std::to_string(item.lStartRow), std::to_string(item.lEndRow),
+                 std::to_string(DefinitionLimits::HEAD_ROW)});
         else if (item.lStartRow < 1 || item.lEndRow < 1)
             Add(LintRule::BadRepeat, item, REPEAT_NO_ROWS, {});
     }

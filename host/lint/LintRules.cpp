@@ -292,6 +292,13 @@ constexpr auto RULES = std::to_array<LintRuleRow>({
      ERROR,
      {"A tax office whose code an earlier entry has: it is never used.",
       "局署番号が前の行と同じ局署です。使われません。"}},
+    {LintRule::BeyondLimit,
+     "beyond-limit",
+     ERROR,
+     {"More levels, ways to a parent or rows of a head than the library takes: the load or the "
+      "conversion fails.",
+      "ライブラリの上限を超える階層、親までの道、または先頭の行です。読み込みまたは変換に失敗します"
+      "。"}},
     {LintRule::LoadFailure,
      "load-failure",
      ERROR,

@@ -67,6 +67,7 @@ enum class LintRule
     NoOffice,
     BadOffice,
     DuplicateOffice,
+    BeyondLimit,
     LoadFailure,
 };
 

@@ -6,6 +6,7 @@
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaXDOM.h"
+#include "definition/DefinitionLimits.h"
 #include "definition/RunOnDefinition.h"
 
 namespace {
@@ -61,7 +62,7 @@ int KZCEkaDefinition::LoadTree(KZCEkaXDOM& dom, const char* szTypeId, bool bVali
         if (dom.GetNodeName() != "item")
             continue;
         if (!AddNode(dom, bValidate)) {
-            KZCDebugDump::Log(FUNCTION, "定義体の帳票タグ階層定義が不正です。");
+            KZCDebugDump::Log(FUNCTION, BROKEN_TREE);
             return STATUS_NG;
         }
     }

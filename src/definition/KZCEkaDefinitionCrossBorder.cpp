@@ -1,11 +1,18 @@
 #include "KZCEkaDefinitionCrossBorder.h"
 
+#include <memory>
+
 #include "KZCEkaITDataCrossBorder.h"
 #include "KZCEkaMOKDefReportCrossBorder.h"
 
 int KZCEkaDefinitionCrossBorder::CreateDefinition(const char* szTypeId, bool bValidate)
 {
-    return LoadDefinition(CALL_TYPE_CROSSBORDER, szTypeId, bValidate);
+    static constexpr FamilyLoad CROSSBORDER = {
+        CALL_TYPE_CROSSBORDER, "KZCEkaDefinitionCrossBorder::CreateDefinition",
+        []() -> std::unique_ptr<KZCEkaMOKDefReportFinance> {
+            return std::make_unique<KZCEkaMOKDefReportCrossBorder>();
+        }};
+    return LoadDefinition(CROSSBORDER, szTypeId, bValidate);
 }
 
 std::string KZCEkaDefinitionCrossBorder::MakeReportToCsvCrossBorder(const KZCEkaCsvFile* pCsv,
@@ -17,18 +24,8 @@ std::string KZCEkaDefinitionCrossBorder::MakeReportToCsvCrossBorder(const KZCEka
     return MakeReports(
         FUNCTION, *pCsv,
         [=](KZCEkaMOKDefReportFinance& report, long lRow, const std::string& strStamp) {
-            // Every report of this class was made by MakeReportNode below.
+            // Every report of this class was made by CreateDefinition above.
             return static_cast<KZCEkaMOKDefReportCrossBorder&>(report).WriteNodeCrossBorder(
                 pCsv, lRow, pIT, strStamp);
         });
-}
-
-std::unique_ptr<KZCEkaMOKDefReportFinance> KZCEkaDefinitionCrossBorder::MakeReportNode() const
-{
-    return std::make_unique<KZCEkaMOKDefReportCrossBorder>();
-}
-
-const char* KZCEkaDefinitionCrossBorder::ClassName() const
-{
-    return "KZCEkaDefinitionCrossBorder";
 }

@@ -1,7 +1,6 @@
 // The loaded definition of a CrossBorder procedure.
 #pragma once
 
-#include <memory>
 #include <string>
 
 #include "KZCEkaDefinitionFinance.h"
@@ -15,8 +14,4 @@ public:
     int CreateDefinition(const char* szTypeId, bool bValidate) override;
     /// As MakeReportToCsvFinance, with this family's IT section.
     std::string MakeReportToCsvCrossBorder(const KZCEkaCsvFile* pCsv, KZCEkaITDataCrossBorder* pIT);
-
-protected:
-    std::unique_ptr<KZCEkaMOKDefReportFinance> MakeReportNode() const override;
-    const char* ClassName() const override;
 };

@@ -14,6 +14,7 @@
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
 #include "SpreadProcedure.h"
+#include "definition/DefinitionLimits.h"
 #include "definition/RunOnDefinition.h"
 
 namespace {
@@ -25,16 +26,18 @@ constexpr long DRAWN_NUMBERS = 1000;
 /// A report that ends before the second record never hands over to the next.
 constexpr std::int64_t LEAST_HANDOVER_ROW = 2;
 
+constexpr const char* VALIDATE_CSV = "KZCEkaDefinitionFinance::ValidateCsv";
+
 std::int64_t ReadRow(const std::string& strText)
 {
     return CText::ReadLong(strText.c_str());
 }
 
-[[noreturn]] void RaiseUnknownProcedure(const std::string& strFunction, const char* szTypeId)
+[[noreturn]] void RaiseUnknownProcedure(const char* szFunction, const char* szTypeId)
 {
     const std::string strMessage = CText::CutToBuffer(
         std::string("定義体に対象の申請番号が存在しません。：") + szTypeId, MESSAGE_BUFFER_SIZE);
-    RaiseFault(strFunction.c_str(), strMessage.c_str());
+    RaiseFault(szFunction, strMessage.c_str());
 }
 
 /// The records that the writers give to a report, both from 1.
@@ -73,40 +76,45 @@ struct KZCEkaDefinitionFinance::RecordRange
 
 int KZCEkaDefinitionFinance::CreateDefinition(const char* szTypeId, bool bValidate)
 {
-    return LoadDefinition(CALL_TYPE_FINANCE, szTypeId, bValidate);
+    static constexpr FamilyLoad FINANCE = {
+        CALL_TYPE_FINANCE, "KZCEkaDefinitionFinance::CreateDefinition",
+        [] { return std::make_unique<KZCEkaMOKDefReportFinance>(); }};
+    return LoadDefinition(FINANCE, szTypeId, bValidate);
 }
 
-int KZCEkaDefinitionFinance::LoadDefinition(CALL_TYPE eType, const char* szTypeId, bool bValidate)
+int KZCEkaDefinitionFinance::LoadDefinition(const FamilyLoad& family,
+                                            const char* szTypeId,
+                                            bool bValidate)
 {
-    const std::string strFunction = LogName("CreateDefinition");
+    const char* szFunction = family.szFunction;
     if (szTypeId == nullptr) {
-        KZCDebugDump::Log(strFunction.c_str(),
-                          "引数エラー。定義情報作成に必要な情報が準備されていません。");
+        KZCDebugDump::Log(szFunction, "引数エラー。定義情報作成に必要な情報が準備されていません。");
         return STATUS_NG;
     }
     try {
         Clear();
         PROC_INFO info;
-        if (!KZCDefinitionManager::getProcInfo(szTypeId, info, eType))
-            RaiseUnknownProcedure(strFunction, szTypeId);
+        if (!KZCDefinitionManager::getProcInfo(szTypeId, info, family.eType))
+            RaiseUnknownProcedure(szFunction, szTypeId);
         const std::string strPath = FamilyFolder::FindDefinition(
-            eType, info.procId,
-            bValidate ? FamilyFolder::VALIDATION_FILE : FamilyFolder::TEMPLATE_FILE,
-            strFunction.c_str());
+            family.eType, info.procId,
+            bValidate ? FamilyFolder::VALIDATION_FILE : FamilyFolder::TEMPLATE_FILE, szFunction);
         KZCEkaXDOM dom;
         if (!dom.Initialize() || !dom.Parse(strPath.c_str()))
-            RaiseFault(strFunction.c_str(), "定義体の読み込みでエラーが発生しました。");
-        return LoadReports(dom, szTypeId, bValidate);
+            RaiseFault(szFunction, "定義体の読み込みでエラーが発生しました。");
+        return LoadReports(dom, family, szTypeId, bValidate);
     } catch (...) {
-        KZCDebugDump::Log(strFunction.c_str(), UNEXPECTED_ERROR);
+        KZCDebugDump::Log(szFunction, UNEXPECTED_ERROR);
         return STATUS_NG;
     }
 }
 
 /// Makes the trees of all reports. The cursor stands on the root.
-int KZCEkaDefinitionFinance::LoadReports(KZCEkaXDOM& dom, const char* szTypeId, bool bValidate)
+int KZCEkaDefinitionFinance::LoadReports(KZCEkaXDOM& dom,
+                                         const FamilyLoad& family,
+                                         const char* szTypeId,
+                                         bool bValidate)
 {
-    const std::string strFunction = LogName("CreateDefinition");
     int nStatus = STATUS_OK;
     for (long lMove = dom.MoveFirstChild(); lMove == STATUS_OK; lMove = dom.MoveNextSibling()) {
         if (dom.GetNodeName() != "report")
@@ -114,11 +122,12 @@ int KZCEkaDefinitionFinance::LoadReports(KZCEkaXDOM& dom, const char* szTypeId, 
         m_strProcId = dom.GetAttribute("procId");
         m_strProcVR = dom.GetAttribute("procVR");
         if (m_strProcId.empty())
-            RaiseUnknownProcedure(strFunction, szTypeId);
+            RaiseUnknownProcedure(family.szFunction, szTypeId);
         REPORT_INFO info;
+        info.pReport = family.pMakeReport();
         if (!LoadReport(dom, info, bValidate)) {
             nStatus = STATUS_NG;
-            KZCDebugDump::Log(strFunction.c_str(), "定義体の帳票タグ階層定義が不正です。");
+            KZCDebugDump::Log(family.szFunction, BROKEN_TREE);
         }
         m_listReport.push_back(std::move(info));
         // Up to the report. From one without any element the cursor never went down: it goes up to
@@ -128,7 +137,7 @@ int KZCEkaDefinitionFinance::LoadReports(KZCEkaXDOM& dom, const char* szTypeId, 
     return nStatus;
 }
 
-/// Makes the tree of the cursor's report. \return false if a node could not be made or placed, or
+/// Fills the tree of the cursor's report. \return false if a node could not be made or placed, or
 /// if the report can't be divided into pages.
 bool KZCEkaDefinitionFinance::LoadReport(KZCEkaXDOM& dom, REPORT_INFO& info, bool bValidate)
 {
@@ -138,7 +147,6 @@ bool KZCEkaDefinitionFinance::LoadReport(KZCEkaXDOM& dom, REPORT_INFO& info, boo
     info.strEndRow = dom.GetAttribute("endRow");
     info.strStepRow = dom.GetAttribute("stepRow");
     info.strLastRecord = dom.GetAttribute("lastRecord");
-    info.pReport = MakeReportNode();
     info.pReport->Initialize(info.strReportId.c_str(), info.strReportVR.c_str());
     const std::int64_t nStepRow = ReadRow(info.strStepRow);
     info.pReport->setControlRows(ReadRow(info.strStartRow), ReadRow(info.strEndRow), nStepRow);
@@ -173,15 +181,14 @@ bool KZCEkaDefinitionFinance::LoadItems(KZCEkaXDOM& dom,
 
 int KZCEkaDefinitionFinance::ValidateCsv(const KZCEkaCsvFile* pCsv)
 {
-    const std::string strFunction = LogName("ValidateCsv");
     constexpr const char* MISSING = "引数エラー。CSVチェックに必要な情報が準備されていません。";
     if (pCsv == nullptr)
-        RaiseFault(strFunction.c_str(), MISSING);
-    return RunOnDefinition(strFunction.c_str(), [&] {
+        RaiseFault(VALIDATE_CSV, MISSING);
+    return RunOnDefinition(VALIDATE_CSV, [&] {
         int nStatus = STATUS_OK;
         for (const REPORT_INFO& info : m_listReport) {
             if (!info.pReport)
-                RaiseFault(strFunction.c_str(), MISSING);
+                RaiseFault(VALIDATE_CSV, MISSING);
             const RecordRange range = RangeToCheck(info, pCsv->GetRecordCount());
             for (std::int64_t nIndex = range.nFirst; nIndex < range.nEnd; ++nIndex)
                 if (pCsv->IsValidRecord(nIndex) &&
@@ -199,7 +206,7 @@ KZCEkaDefinitionFinance::RecordRange KZCEkaDefinitionFinance::RangeToCheck(
         return {nCount - 1, nCount};
     const std::int64_t nStart = ReadRow(info.strStartRow);
     if (nStart < 0)
-        RaiseFault(LogName("ValidateCsv").c_str(), "開始レコードの値が不正です。");
+        RaiseFault(VALIDATE_CSV, "開始レコードの値が不正です。");
     const std::int64_t nFirst = nStart == 0 ? 0 : nStart - 1;
     const std::int64_t nEnd = ReadRow(info.strEndRow);
     if (nEnd != 0 && nEnd != -1)
@@ -233,7 +240,7 @@ std::string KZCEkaDefinitionFinance::MakeReports(const char* szFunction,
         m_listReport.front().pReport->setPageNum(0);
         return RangeToWrite(m_listReport.front(), nCount);
     };
-    if (m_listReport.empty())
+    if (m_listReport.empty() || !m_listReport.front().pReport)
         RaiseMissing(szFunction);
     return RunOnDefinition(szFunction, [&] {
         WriteRange range = startReport();
@@ -318,19 +325,4 @@ void KZCEkaDefinitionFinance::Clear()
     m_strProcId.clear();
     m_strProcVR.clear();
     m_listReport.clear();
-}
-
-std::unique_ptr<KZCEkaMOKDefReportFinance> KZCEkaDefinitionFinance::MakeReportNode() const
-{
-    return std::make_unique<KZCEkaMOKDefReportFinance>();
-}
-
-const char* KZCEkaDefinitionFinance::ClassName() const
-{
-    return "KZCEkaDefinitionFinance";
-}
-
-std::string KZCEkaDefinitionFinance::LogName(const char* szOperation) const
-{
-    return std::string(ClassName()) + "::" + szOperation;
 }

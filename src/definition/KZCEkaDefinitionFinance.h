@@ -65,7 +65,15 @@ protected:
     using RecordWriter = std::function<std::string(
         KZCEkaMOKDefReportFinance& report, long lRow, const std::string& strStamp)>;
 
-    int LoadDefinition(CALL_TYPE eType, const char* szTypeId, bool bValidate);
+    /// In what the loads of the two families differ.
+    struct FamilyLoad
+    {
+        CALL_TYPE eType;
+        const char* szFunction;  ///< in the log
+        std::unique_ptr<KZCEkaMOKDefReportFinance> (*pMakeReport)();
+    };
+
+    int LoadDefinition(const FamilyLoad& family, const char* szTypeId, bool bValidate);
     /// Walks the records through the reports in turn.
     std::string MakeReports(const char* szFunction,
                             const KZCEkaCsvFile& csv,
@@ -73,18 +81,16 @@ protected:
     /// Logs and throws FAULT: what a document is made of is missing.
     [[noreturn]] static void RaiseMissing(const char* szFunction);
 
-    virtual std::unique_ptr<KZCEkaMOKDefReportFinance> MakeReportNode() const;
-    /// Name of the class in the log.
-    virtual const char* ClassName() const;
-
     std::list<REPORT_INFO> m_listReport;
 
 private:
     struct RecordRange;
 
-    int LoadReports(KZCEkaXDOM& dom, const char* szTypeId, bool bValidate);
+    int LoadReports(KZCEkaXDOM& dom,
+                    const FamilyLoad& family,
+                    const char* szTypeId,
+                    bool bValidate);
     bool LoadReport(KZCEkaXDOM& dom, REPORT_INFO& info, bool bValidate);
     bool LoadItems(KZCEkaXDOM& dom, KZCEkaMOKDefReportFinance& report, bool bValidate);
-    std::string LogName(const char* szOperation) const;
     RecordRange RangeToCheck(const REPORT_INFO& info, std::int64_t nCount) const;
 };

@@ -8,7 +8,7 @@ std::string KZCEkaMOKDefBango::WriteNode(const KZCEkaCsvFile* pCsv, long lRow)
 {
     constexpr std::size_t KOJIN_LENGTH = 12;
     constexpr std::size_t HOJIN_LENGTH = 13;
-    RequireCsv(pCsv, "KZCEkaMOKDefBango::WriteNode");
+    RequireCsvQuietly(pCsv);
     std::string_view strNumber = pCsv->GetItem(lRow, m_nColumn);
     // A personal number may come with a leading 0 to fill the corporate number's length.
     if (strNumber.size() == HOJIN_LENGTH && strNumber.front() == '0')

@@ -5,7 +5,7 @@
 
 std::string KZCEkaMOKDefIdRef::WriteNode(const KZCEkaCsvFile* pCsv, long /*lRow*/)
 {
-    RequireCsv(pCsv, "KZCEkaMOKDefIdRef::WriteNode");
+    RequireCsvQuietly(pCsv);
     if (m_strValue.empty() || !KZCValidResult::instance()->ExistID(m_strValue))
         return {};
     return CText::CutToBuffer("<" + m_strName + " IDREF=\"" + m_strValue + "\"/>", TAG_BUFFER_SIZE);

@@ -16,7 +16,8 @@ int KZCEkaMOKDefReport::Initialize(const char* szReportId, const char* szReportV
 
 std::string KZCEkaMOKDefReport::WriteNode(const KZCEkaCsvFile* pCsv, long lRow, KZCEkaITData* pIT)
 {
-    if (pCsv == nullptr || pIT == nullptr)
+    RequireCsvQuietly(pCsv);
+    if (pIT == nullptr)
         throw FAULT;
     std::string strBody;
     for (const Share& pChild : m_vecChild)

@@ -7,11 +7,14 @@
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaITDataFinance.h"
 #include "KZCValidResult.h"
+#include "definition/DefinitionLimits.h"
 
 namespace {
 
-/// A head node with more rows before the file than this is a broken definition.
-constexpr std::int64_t LOWEST_HEAD_ROW = -100000;
+[[noreturn]] void RaiseBrokenHead()
+{
+    RaiseFault("KZCEkaMOKDefReportFinance::WriteNodeFromCSVMultiRecord", BROKEN_TREE);
+}
 
 }  // namespace
 
@@ -70,7 +73,10 @@ std::string KZCEkaMOKDefReportFinance::WriteNodeFromCSVMultiRecord(const KZCEkaC
         return {};
     std::string strResult;
     if (OpensMultiPage(*pCsv, lRow + 1)) {
-        ++m_nPageNum;
+        if (++m_nPageNum == 1) {
+            m_nHeadNodes = 0;
+            m_nHeadBytes = 0;
+        }
         strResult = createReportTopTag(pIT) + WriteRepeatedHead(*pCsv);
     }
     strResult += strBody;
@@ -116,19 +122,30 @@ std::string KZCEkaMOKDefReportFinance::WriteChildren(const KZCEkaCsvFile* pCsv, 
 }
 
 /// The nodes that stand at the head of every page, whatever the current record is. Their rows count
-/// as they stand, negative ones too.
-std::string KZCEkaMOKDefReportFinance::WriteRepeatedHead(const KZCEkaCsvFile& csv) const
+/// as they stand, negative ones and those behind the file too: a reference is written for each.
+std::string KZCEkaMOKDefReportFinance::WriteRepeatedHead(const KZCEkaCsvFile& csv)
 {
+    using namespace DefinitionLimits;
     std::string strHead;
     for (const Share& pChild : m_vecChild) {
         if (pChild->getRepeatTopTag() != "1")
             continue;
-        if (pChild->getStartRow() < LOWEST_HEAD_ROW)
-            throw FAULT;
-        const std::int64_t nEnd = std::min(pChild->getEndRow(), csv.GetRecordCount());
-        for (std::int64_t nIndex = pChild->getStartRow() - 1; nIndex < nEnd; ++nIndex)
+        const std::int64_t nStart = pChild->getStartRow();
+        const std::int64_t nEnd = pChild->getEndRow();
+        if (nEnd < nStart)
+            continue;
+        if (nStart < -HEAD_ROW || nEnd > HEAD_ROW)
+            RaiseBrokenHead();
+        m_nHeadNodes += (nEnd - nStart + 1) * pChild->CountNodes();
+        if (m_nHeadNodes > HEAD_NODES)
+            RaiseBrokenHead();
+        for (std::int64_t nIndex = nStart - 1; nIndex < nEnd; ++nIndex) {
             strHead += pChild->WriteNode(&csv, nIndex);
+            if (m_nHeadBytes + strHead.size() > HEAD_BYTES)
+                RaiseBrokenHead();
+        }
     }
+    m_nHeadBytes += strHead.size();
     return strHead;
 }
 

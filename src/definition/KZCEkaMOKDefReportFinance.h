@@ -1,6 +1,7 @@
 // The root of a Finance definition tree: report elements that can take several records.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <map>
 #include <string>
@@ -35,7 +36,7 @@ public:
                                  const std::string& strStamp);
     /// The same for a report that spreads over many records: pages repeat their head nodes and
     /// close the tags that groups left open; a trailer stays on the last page. Throws FAULT for
-    /// null.
+    /// null, and when the heads go beyond DefinitionLimits.
     std::string WriteNodeFromCSVMultiRecord(const KZCEkaCsvFile* pCsv,
                                             long lRow,
                                             KZCEkaITDataFinance* pIT);
@@ -51,7 +52,7 @@ public:
 
 private:
     std::string WriteChildren(const KZCEkaCsvFile* pCsv, long lRow) const;
-    std::string WriteRepeatedHead(const KZCEkaCsvFile& csv) const;
+    std::string WriteRepeatedHead(const KZCEkaCsvFile& csv);
     std::int64_t RowsBehindStart(std::int64_t nRow) const;
     bool IsFirstOfStep(std::int64_t nRow) const;
     bool IsLastOfStep(std::int64_t nRow) const;
@@ -61,6 +62,8 @@ private:
     bool ClosesMultiPage(const KZCEkaCsvFile& csv, std::int64_t nRow) const;
 
     std::int64_t m_nPageNum = 0;
+    std::int64_t m_nHeadNodes = 0;  ///< written by the heads of all pages since the first
+    std::size_t m_nHeadBytes = 0;   ///< the same
 
     static inline std::map<std::string, std::int64_t> m_reportIDCountList;
     static inline std::vector<std::string> m_reportIDList;

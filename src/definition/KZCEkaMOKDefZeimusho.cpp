@@ -4,7 +4,7 @@
 
 int KZCEkaMOKDefZeimusho::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow)
 {
-    RequireCsv(pCsv, "KZCEkaMOKDefZeimusho::ValidateCsv");
+    RequireCsvQuietly(pCsv);
     bool bPassed = true;
     for (const Share& pChild : m_vecChild)
         bPassed = pChild->ValidateCsv(pCsv, lRow) == STATUS_OK && bPassed;
@@ -13,7 +13,7 @@ int KZCEkaMOKDefZeimusho::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow)
 
 std::string KZCEkaMOKDefZeimusho::WriteNode(const KZCEkaCsvFile* pCsv, long lRow)
 {
-    RequireCsv(pCsv, "KZCEkaMOKDefZeimusho::WriteNode");
+    RequireCsvQuietly(pCsv);
     std::string strBody;
     for (auto pChild = m_vecChild.rbegin(); pChild != m_vecChild.rend(); ++pChild)
         strBody += (*pChild)->WriteNode(pCsv, lRow);

@@ -7,7 +7,7 @@ std::string KZCEkaMOKDefZip::WriteNode(const KZCEkaCsvFile* pCsv, long lRow)
 {
     constexpr std::size_t FIRST_PART = 3;   // bytes
     constexpr std::size_t SECOND_PART = 4;  // bytes
-    RequireCsv(pCsv, "KZCEkaMOKDefZip::WriteNode");
+    RequireCsvQuietly(pCsv);
     const std::string strCode = m_nColumn >= 0
                                     ? KZCEkaCommon::SpecialEncoding(pCsv->GetItem(lRow, m_nColumn))
                                     : std::string();

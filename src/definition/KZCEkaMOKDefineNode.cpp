@@ -65,23 +65,6 @@ std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
 
 }  // namespace
 
-/// One search for a parent, which faults beyond its bounds.
-struct KZCEkaMOKDefineNode::Search
-{
-    SearchBounds bounds;
-
-    void Step() { Require(bounds.Step()); }
-    void Enter() { Require(bounds.Enter()); }
-    void Leave() { bounds.Leave(); }
-
-private:
-    static void Require(bool bWithinBounds)
-    {
-        if (!bWithinBounds)
-            RaiseFault("KZCEkaMOKDefineNode::LocateNode", nullptr);
-    }
-};
-
 KZCEkaMOKDefineNode::Share::Share(KZCEkaMOKDefineNode* pNode) : m_pNode(pNode)
 {
     m_pNode->GenerationAddref();
@@ -172,34 +155,34 @@ int KZCEkaMOKDefineNode::LocateNode(KZCEkaMOKDefineNode* pChild, int nDefault)
         KZCDebugDump::Log("KZCEkaMOKDefineNode::LocateNode");
         return nDefault;
     }
-    Search search;
-    return Locate(pChild, nDefault, search);
+    SearchBounds bounds;
+    const int nResult = Locate(pChild, nDefault, bounds);
+    return bounds.IsStopped() ? nDefault : nResult;
 }
 
-int KZCEkaMOKDefineNode::Locate(KZCEkaMOKDefineNode* pChild, int nDefault, Search& search)
+int KZCEkaMOKDefineNode::Locate(KZCEkaMOKDefineNode* pChild, int nDefault, SearchBounds& bounds)
 {
-    search.Enter();
     int nResult = nDefault;
     if (pChild->m_strParent == m_strName) {
         const bool bSame = m_strGeneration == pChild->m_strGeneration;
-        if (bSame || m_strGeneration.empty() || pChild->m_strGeneration.empty()) {
-            Attach(pChild);
-            if (bSame || m_strGeneration.empty()) {
-                search.Leave();
-                return 0;
-            }
-            // A child for both generations under a parent of one: the other parent wants it too.
-            nResult = 1;
-        }
+        if (bSame || m_strGeneration.empty())
+            return Attach(pChild, 0, bounds);
+        // A child for both generations under a parent of one: the other parent wants it too.
+        if (pChild->m_strGeneration.empty())
+            nResult = Attach(pChild, 1, bounds);
     }
     // Among parents of equal name the one defined last is found first. The child may just have
     // become one of them; it is no parent of itself, whatever its name.
     for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild) {
-        search.Step();  // a child that hangs here many times is passed over as often
-        if (KZCEkaMOKDefineNode& node = *m_vecChild[nChild - 1]; &node != pChild)
-            nResult = node.Locate(pChild, nResult, search);
+        if (!bounds.Step())  // a child that hangs here many times is passed as often
+            break;
+        KZCEkaMOKDefineNode& node = *m_vecChild[nChild - 1];
+        if (&node == pChild || !bounds.HasRoomBelow())
+            continue;
+        bounds.Enter();
+        nResult = node.Locate(pChild, nResult, bounds);
+        bounds.Leave();
     }
-    search.Leave();
     return nResult;
 }
 
@@ -211,30 +194,42 @@ int KZCEkaMOKDefineNode::LocateNodeFinance(KZCEkaMOKDefineNode* pChild,
         KZCDebugDump::Log("KZCEkaMOKDefineNode::LocateNodeFinance");
         return nDefault;
     }
-    Search search;
-    return LocateFinance(pChild, bValidate, nDefault, search);
+    SearchBounds bounds;
+    const int nResult = LocateFinance(pChild, bValidate, nDefault, bounds);
+    return bounds.IsStopped() ? nDefault : nResult;
 }
 
 int KZCEkaMOKDefineNode::LocateFinance(KZCEkaMOKDefineNode* pChild,
                                        bool bValidate,
                                        int nDefault,
-                                       Search& search)
+                                       SearchBounds& bounds)
 {
-    if ((bValidate && pChild->m_strParent.empty()) || pChild->m_strParent == m_strName) {
-        Attach(pChild);
-        return 0;
-    }
-    search.Enter();
+    if ((bValidate && pChild->m_strParent.empty()) || pChild->m_strParent == m_strName)
+        return Attach(pChild, 0, bounds);
     int nResult = nDefault;
-    for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild)
-        nResult = m_vecChild[nChild - 1]->LocateFinance(pChild, bValidate, nResult, search);
-    search.Leave();
+    for (std::size_t nChild = m_vecChild.size(); nChild > 0 && nResult != 0; --nChild) {
+        if (!bounds.Step())
+            break;
+        bounds.Enter();
+        nResult = m_vecChild[nChild - 1]->LocateFinance(pChild, bValidate, nResult, bounds);
+        bounds.Leave();
+    }
     return nResult;
 }
 
-void KZCEkaMOKDefineNode::Attach(KZCEkaMOKDefineNode* pChild)
+int KZCEkaMOKDefineNode::Attach(KZCEkaMOKDefineNode* pChild, int nResult, SearchBounds& bounds)
 {
-    m_vecChild.emplace_back(pChild);
+    if (bounds.HasRoomBelow())
+        m_vecChild.emplace_back(pChild);
+    return nResult;
+}
+
+std::int64_t KZCEkaMOKDefineNode::CountNodes() const
+{
+    std::int64_t nNodes = 1;
+    for (const Share& pChild : m_vecChild)
+        nNodes += pChild->CountNodes();
+    return nNodes;
 }
 
 int KZCEkaMOKDefineNode::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow)
@@ -332,6 +327,12 @@ void KZCEkaMOKDefineNode::RequireCsv(const KZCEkaCsvFile* pCsv, const char* szFu
 {
     if (pCsv == nullptr)
         RaiseFault(szFunction, nullptr);
+}
+
+void KZCEkaMOKDefineNode::RequireCsvQuietly(const KZCEkaCsvFile* pCsv)
+{
+    if (pCsv == nullptr)
+        throw FAULT;
 }
 
 std::string KZCEkaMOKDefineNode::OpenTag(const std::string& strName)

@@ -11,6 +11,7 @@
 
 class KZCEkaCsvFile;
 class KZCEkaXDOM;
+class SearchBounds;
 
 /// WRITE_DESCEND: the node isn't to open itself, only to look for groups in range below it.
 enum eWriteMode : int
@@ -45,9 +46,8 @@ public:
     static std::unique_ptr<KZCEkaMOKDefineNode> CreateNode(KZCEkaXDOM* pDom, bool bValidate);
 
     /// Hangs the node below this one or its descendants, by parent name and generation.
-    /// \param pChild  The tree takes a share of it on success only.
-    /// \return below 0 (nDefault) when no parent was found. Throws FAULT when the search goes
-    /// deeper or longer than any sane definition needs.
+    /// \param pChild  Parents that were found take shares of it.
+    /// \return nDefault when no parent was found, or when the search met one of DefinitionLimits.
     int LocateNode(KZCEkaMOKDefineNode* pChild, int nDefault);
     /// The same by name alone; with bValidate a node without a parent name hangs directly here.
     int LocateNodeFinance(KZCEkaMOKDefineNode* pChild, bool bValidate, int nDefault);
@@ -64,6 +64,9 @@ public:
     /// Negative row numbers count from the end, -1 being the last record.
     bool isWithInRecordRange(const KZCEkaCsvFile* pCsv, long lRow) const;
     static std::int64_t convRecordRow(const KZCEkaCsvFile* pCsv, std::int64_t nRow);
+
+    /// The node and all below it, a shared one as often as it has parents.
+    std::int64_t CountNodes() const;
 
     /// Closing tags of all tags left open, the last opened first.
     static std::string getCloseTags();
@@ -93,7 +96,10 @@ protected:
     static bool FitsGeneration(const KZCEkaMOKDefineNode& child,
                                const KZCEkaCsvFile& csv,
                                long lRow);
+    /// Logs and throws FAULT for null.
     static void RequireCsv(const KZCEkaCsvFile* pCsv, const char* szFunction);
+    /// Throws FAULT for null, as those kinds do that say nothing about it.
+    static void RequireCsvQuietly(const KZCEkaCsvFile* pCsv);
     /// The node's own checks as a group's: with the first child's column to fall back on.
     int ValidateGroup(const KZCEkaCsvFile* pCsv, long lRow);
     /// "<name>" and "</name>", cut as their buffer cuts them.
@@ -124,8 +130,11 @@ protected:
     static inline std::vector<std::string> m_listCloseTag;
 
 private:
-    struct Search;
-    int Locate(KZCEkaMOKDefineNode* pChild, int nDefault, Search& search);
-    int LocateFinance(KZCEkaMOKDefineNode* pChild, bool bValidate, int nDefault, Search& search);
-    void Attach(KZCEkaMOKDefineNode* pChild);
+    int Locate(KZCEkaMOKDefineNode* pChild, int nDefault, SearchBounds& bounds);
+    int LocateFinance(KZCEkaMOKDefineNode* pChild,
+                      bool bValidate,
+                      int nDefault,
+                      SearchBounds& bounds);
+    /// \return nResult; nothing is attached where the tree would get too deep.
+    int Attach(KZCEkaMOKDefineNode* pChild, int nResult, SearchBounds& bounds);
 };

@@ -122,9 +122,13 @@ TEST_F(DefinitionTest, FirstOfTwoReportsWithOneIdWins)
 
 TEST_F(DefinitionTest, FirstReportWithAnEmptyProcedureHidesTheSecond)
 {
+    const DebugLog log;
     EXPECT_EQ(LoadIndex(R"(<define><report id="003" reportId="GEZ031"/>
                            <report id="003" procId="PGE5032" reportId="GEZ032"/></define>)"),
               STATUS_NG);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre("定義体に対象の申請番号が存在しません。:003",
+                                                       UNEXPECTED_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 TEST_F(DefinitionTest, NameOfTheRootDoesNotMatter)
@@ -309,26 +313,36 @@ TEST_F(DefinitionTest, UnknownParentFails)
 {
     const DebugLog log;
     EXPECT_EQ(Load(R"(<item type="Normal" id="A" parent="NONE"/>)"), STATUS_NG);
-    EXPECT_THAT(LastLogMessages(log, 1), testing::ElementsAre(TREE_ERROR));
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(TREE_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 TEST_F(DefinitionTest, EmptyParentFails)
 {
+    const DebugLog log;
     EXPECT_EQ(Load(R"(<item type="Normal" id="A"/>)"), STATUS_NG);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(TREE_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 TEST_F(DefinitionTest, ParentBehindItsChildFails)
 {
+    const DebugLog log;
     EXPECT_EQ(Load(R"(<item type="Normal" id="B" parent="A" column="2"/>
                       <item type="Normal" id="A" parent="GEZ030"/>)"),
               STATUS_NG);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(TREE_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 TEST_F(DefinitionTest, ParentOfTheOtherGenerationFails)
 {
+    const DebugLog log;
     EXPECT_EQ(Load(R"(<item type="Normal" id="A" parent="GEZ030" generation="junior"/>
                       <item type="Normal" id="B" parent="A" generation="senior"/>)"),
               STATUS_NG);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(TREE_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 TEST_F(DefinitionTest, FailedLoadingStopsThereAndKeepsTheTreeBuiltSoFar)
@@ -543,6 +557,7 @@ INSTANTIATE_TEST_SUITE_P(Prologs,
 
 TEST_F(DefinitionTest, HundredThousandItemsEachTheParentOfTheNextFail)
 {
+    const DebugLog log;
     std::string strItems = R"(<item type="TAG" id="N0" parent="GEZ030"/>)";
     for (int n = 1; n < 100000; ++n)
         strItems += "<item type=\"TAG\" id=\"N" + std::to_string(n) + "\" parent=\"N" +
@@ -550,6 +565,8 @@ TEST_F(DefinitionTest, HundredThousandItemsEachTheParentOfTheNextFail)
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(Load(strItems), STATUS_NG);
     EXPECT_LT(std::chrono::steady_clock::now() - start, PATIENCE);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(TREE_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 /// So many unknown elements in each other.
@@ -581,6 +598,7 @@ TEST_F(DefinitionTest, HundredThousandElementsInEachOtherFail)
 
 TEST_F(DefinitionTest, ParentsDoubledOverFortyLevelsFail)
 {
+    const DebugLog log;
     std::string strItems = R"(<item type="TAG" id="C0" parent="GEZ030"/>)";
     for (int n = 1; n <= 40; ++n) {
         const std::string strLevel = std::to_string(n);
@@ -593,6 +611,8 @@ TEST_F(DefinitionTest, ParentsDoubledOverFortyLevelsFail)
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(Load(strItems), STATUS_NG);
     EXPECT_LT(std::chrono::steady_clock::now() - start, PATIENCE);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(TREE_ERROR));
+    EXPECT_TRUE(KZCValidResult::instance()->IsEmpty());
 }
 
 TEST_F(DefinitionTest, ParentsDoubledOverThreeLevelsLoad)

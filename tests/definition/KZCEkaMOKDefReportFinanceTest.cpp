@@ -435,14 +435,14 @@ TEST_P(HeadRowsTest, HeadAsksForTheseRecords)
 const HeadCase HEADS[] = {
     {"First", 1, 1, " 1"},
     {"All", 1, 3, " 1 2 3"},
-    {"NothingBehindTheLastRecord", 2, 9, " 2 3"},
-    {"NothingBehindTheLastRecordOfTheLargestEnd", 3, LONG_MAX, " 3"},
+    {"RowsBehindTheLastRecordToo", 2, 6, " 2 3 4 5 6"},
+    {"RowsBehindTheLastRecordAlone", 8, 9, " 8 9"},
     {"EndBeforeStart", 3, 2, ""},
     {"NegativeEndIsTakenRaw", 1, -1, ""},
     {"NegativeRowsAreTakenRaw", -2, -1, " -2 -1"},
     {"WithoutRowsTheRecordBeforeTheFirst", 0, 0, " 0"},
     {"SmallestEnd", 1, LONG_MIN, ""},
-    {"LargestStart", LONG_MAX, LONG_MAX, ""},
+    {"LargestStart", LONG_MAX, 1, ""},
 };
 
 INSTANTIATE_TEST_SUITE_P(Rows, HeadRowsTest, testing::ValuesIn(HEADS), [](const auto& info) {
@@ -451,7 +451,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, HeadRowsTest, testing::ValuesIn(HEADS), [](const 
 
 TEST_F(ReportFinanceTest, HeadThatBeginsAbsurdlyFarBeforeTheFileRaises)
 {
-    for (const std::int64_t nStart : {-100001L, LONG_MIN + 1, LONG_MIN}) {
+    for (const std::int64_t nStart : {-1000001L, LONG_MIN + 1, LONG_MIN}) {
         KZCEkaMOKDefReportFinance report;
         EXPECT_EQ(report.Initialize("GEZ100", "2.0"), STATUS_OK);
         auto pHead = std::make_unique<RecordNode>("GEZ100");

@@ -146,6 +146,14 @@ TEST_F(DefTagTest, LastRecordGroupIsNotSearchedAtOtherRecords)
     EXPECT_EQ(WriteAll(*pNode, WRITE_DESCEND), "|||<U><A>a4</A></U>");
 }
 
+TEST_F(DefTagTest, OneWithABlankOrALetterMeansTheLastRecordToo)
+{
+    const auto pNode =
+        CreateNodeOf<KZCEkaMOKDefTAG>(R"(<item type="TAG" id="T" lastRecord=" 1x"/>)");
+    HangAll(*pNode, {R"(<item type="Normal" id="A" parent="T" column="2"/>)"});
+    EXPECT_EQ(WriteAll(*pNode), "|||<T><A>a4</A></T>");
+}
+
 TEST_F(DefTagTest, OnlyOneMeansTheLastRecord)
 {
     const auto pNode = CreateNodeOf<KZCEkaMOKDefTAG>(R"(<item type="TAG" id="T" lastRecord="2"/>)");

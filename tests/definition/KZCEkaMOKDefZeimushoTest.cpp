@@ -99,6 +99,16 @@ TEST_F(DefZeimushoTest, GroupIsCheckedAtTheColumnOfItsFirstChild)
               "refuses 0001-03:04-HE70002E");
 }
 
+TEST_F(DefZeimushoTest, GroupIsCheckedAtTheFirstColumnToo)
+{
+    const auto pNode = CreateNodeOf<KZCEkaMOKDefZeimusho>(
+        R"(<item type="Zeimusho" id="D"><valid id="taxofficenm"/></item>)", true);
+    HangAll(*pNode, {R"(<item type="Normal" id="A" parent="D" column="1"/>)"});
+    EXPECT_EQ(Check(*pNode, GenerationCsv(Records{{"青葉", "00101"}})), PASSES);
+    EXPECT_EQ(Check(*pNode, GenerationCsv(Records{{"紅葉", "00101"}})),
+              "refuses 0001-01:02-HE70002E");
+}
+
 TEST_F(DefZeimushoTest, FailedChildKeepsTheGroupFromItsCheck)
 {
     const auto pNode = CreateNodeOf<KZCEkaMOKDefZeimusho>(

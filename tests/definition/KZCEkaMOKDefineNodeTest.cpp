@@ -119,7 +119,7 @@ TEST_F(DefineNodeTest, NullDomGivesNullAndALogEntryWithoutText)
 {
     const DebugLog log;
     EXPECT_EQ(KZCEkaMOKDefineNode::CreateNode(nullptr, true), nullptr);
-    EXPECT_THAT(LogMessages(log), testing::IsEmpty());
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre(""));
     EXPECT_THAT(log.Text(), testing::HasSubstr("KZCEkaMOKDefineNode::CreateNode--\n"));
 }
 
@@ -135,7 +135,7 @@ TEST_F(DefineNodeTest, UnknownCheckKeywordGivesNull)
     EXPECT_EQ(CreateNode(R"(<item type="Normal" id="A"><valid id="Exist"/></item>)", true),
               nullptr);
     EXPECT_THAT(LogMessages(log), testing::ElementsAre("不明なValidのidが指定されています。 Exist",
-                                                       "チェックアイテムが作成できません。",
+                                                       "チェックアイテムが作成できません。", "",
                                                        "想定外エラーが発生しました。"));
 }
 
@@ -226,6 +226,16 @@ INSTANTIATE_TEST_SUITE_P(Texts, DefineNodeColumnTest, testing::ValuesIn(COLUMN_C
 
 // ---- finding the parent ------------------------------------------------------------------------
 
+TEST_F(DefineNodeTest, LastRecordIsReadAsANumber)
+{
+    for (const char* szText : {"1", " 1", "1x", "01", "+1"})
+        EXPECT_EQ(CreateNode(std::string(R"(<item type="TAG" lastRecord=")") + szText + "\"/>")
+                      ->getLastRecord(),
+                  1)
+            << szText;
+    EXPECT_EQ(CreateNode(R"(<item type="TAG" lastRecord="x1"/>)")->getLastRecord(), 0);
+}
+
 struct LocateCase
 {
     const char* szName;
@@ -274,7 +284,7 @@ TEST_F(DefineNodeTest, NullChildGivesTheDefaultAndALogEntryWithoutText)
     KZCEkaMOKDefineNode node;
     EXPECT_EQ(node.LocateNode(nullptr, -1), -1);
     EXPECT_EQ(node.LocateNode(nullptr, 7), 7);
-    EXPECT_THAT(LogMessages(log), testing::IsEmpty());
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre("", ""));
     EXPECT_THAT(log.Text(), testing::HasSubstr("KZCEkaMOKDefineNode::LocateNode--\n"));
 }
 

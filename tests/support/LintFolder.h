@@ -174,6 +174,8 @@ public:
     {
         const TempFolder folder;
         folder.MakeFolder("Finance");
+        if (m_mapFile.lower_bound("CrossBorder/") != m_mapFile.lower_bound("CrossBorder0"))
+            folder.MakeFolder("CrossBorder");
         for (const auto& [strName, strText] : m_mapFile)
             folder.Write(strName, strText);
         return host::LintFolder(folder.Path(), vecTypeId);

@@ -482,6 +482,29 @@ const FolderCase WRITING[] = {
      ONE,
      {{LINT_TPL, R"(type="TAG")", R"(type="TAG" repeatTopTag="1")"}},
      {{"bad-repeat", LINT_TPL, "repeatTopTag"}}},
+    {"RepeatedHeadUpToAMillion",
+     MULTI,
+     {{LINT_MULTI_TPL, R"(startRow="1" endRow="1")", R"(startRow="999990" endRow="1000000")"}},
+     {{"never-written", LINT_MULTI_TPL, R"(id="NAME")"}}},
+    {"RepeatedHeadBehindAMillion",
+     MULTI,
+     {{LINT_MULTI_TPL, R"(startRow="1" endRow="1")", R"(startRow="1000001" endRow="1000001")"}},
+     {{"beyond-limit", LINT_MULTI_TPL, R"(id="HEAD")"},
+      {"never-written", LINT_MULTI_TPL, R"(id="NAME")"}}},
+    {"RepeatedHeadBeforeMinusAMillion",
+     MULTI,
+     {{LINT_MULTI_TPL, R"(startRow="1" endRow="1")", R"(startRow="-1000001" endRow="1")"}},
+     {{"beyond-limit", LINT_MULTI_TPL, R"(id="HEAD")"}}},
+    // A thousand records make 333 pages, and the head is six items.
+    {"RepeatedHeadOfAlmostTooManyItems",
+     MULTI,
+     {{LINT_MULTI_TPL, R"(startRow="1" endRow="1")", R"(startRow="1001" endRow="51050")"}},
+     {{"never-written", LINT_MULTI_TPL, R"(id="NAME")"}}},
+    {"RepeatedHeadOfTooManyItems",
+     MULTI,
+     {{LINT_MULTI_TPL, R"(startRow="1" endRow="1")", R"(startRow="1001" endRow="51051")"}},
+     {{"beyond-limit", LINT_MULTI_TPL, "<report"},
+      {"never-written", LINT_MULTI_TPL, R"(id="NAME")"}}},
     {"RepeatedHeadInside",
      MULTI,
      {{LINT_MULTI_TPL, R"(id="NAME")", R"(id="NAME" repeatTopTag="1")"}},
@@ -540,6 +563,19 @@ const FolderCase CATALOGUE[] = {
      ONE,
      {{LINT_VLD, R"(procId="PGE2015")", R"(procId="PGE2025")"}},
      {{"catalogue-mismatch", LINT_VLD, "<report"}}},
+    {"OtherProcedureInTheTemplate",
+     ONE,
+     {{LINT_TPL, R"(procId="PGE2015")", R"(procId="PGE2025")"}},
+     {{"catalogue-mismatch", LINT_TPL, "<report"}}},
+    {"OtherProcedureInTheLastReportAlone",
+     TWO,
+     {{LINT_TWO_TPL, R"(procId="PGE2030" procVR="231.0" reportId="GEZ051")",
+       R"(procId="PGE2015" procVR="231.0" reportId="GEZ051")"}},
+     {{"catalogue-mismatch", LINT_TWO_TPL, "明細書"}}},
+    {"ProcedureThatSpreadsInAFileOfAnother",
+     ONE,
+     {{LINT_TPL, R"(procId="PGE2015")", R"(procId="PGE1640")"}},
+     {{"catalogue-mismatch", LINT_TPL, "<report"}}},
     {"OtherProcedureVersion",
      ONE,
      {{LINT_TPL, "231.0", "230.0"}},
@@ -697,11 +733,14 @@ LintFolderText FolderWithChain(int nItems, const std::string& strLeaf)
     return folder;
 }
 
-TEST(LintLoadTest, TreeTooDeepForTheLibraryIsALoadFailure)
+TEST(LintLoadTest, TreeTooDeepForTheLibraryIsBeyondTheLimit)
 {
-    const LintFolderText folder = FolderWithChain(600, R"( column="2" label="x")");
-    EXPECT_EQ(Brief(folder.Lint({"002"})),
-              std::vector<std::string>{"load-failure KZEkaDefine.xml:3"});
+    const std::vector<LintFinding> vecFinding =
+        FolderWithChain(600, R"( column="2" label="x")").Lint({"002"});
+    ASSERT_EQ(vecFinding.size(), 1U);
+    EXPECT_EQ(vecFinding.front().strRule, "beyond-limit");
+    EXPECT_EQ(vecFinding.front().strMessage,
+              "The item hangs more than 500 levels below the report: the load fails.");
 }
 
 TEST(LintLoadTest, LeafOfATreeThatTheLibraryTakesIsLookedAt)
@@ -719,8 +758,9 @@ TEST(LintLoadTest, DeepestTreeThatTheLibraryTakesLoads)
     EXPECT_EQ(Brief(folder.Lint({"002"})),
               std::vector<std::string>{"shared-column KZEkaDefine.xml:" +
                                        std::to_string(folder.LineOf(LINT_BASE, R"(id="E")"))});
-    EXPECT_EQ(Brief(FolderWithChain(500, R"( column="2" label="x")").Lint({"002"})),
-              std::vector<std::string>{"load-failure KZEkaDefine.xml:3"});
+    const LintFolderText tooDeep = FolderWithChain(500, R"( column="2" label="x")");
+    EXPECT_EQ(Brief(tooDeep.Lint({"002"})),
+              Brief(tooDeep, {{"beyond-limit", LINT_BASE, R"(id="E")"}}));
 }
 
 TEST(LintUnusedColumnTest, ColumnsOfAgeAndOfBaseDatesAreUsed)
@@ -753,6 +793,58 @@ TEST(LintUnknownKeywordTest, AdviceNamesTheCommandThatListsTheKeywords)
     ASSERT_EQ(vecFinding.size(), 1U);
     EXPECT_EQ(vecFinding.front().strAdvice,
               "\"kzekamok rules --format markdown\" lists the keywords.");
+}
+
+TEST(LintLimitTest, SearchThatNeverEndsIsNamedAtItsItem)
+{
+    // Each level stands once per generation, and a child of both: ways to it double at each.
+    LintFolderText folder;
+    std::string strItems = R"(<item type="TAG" id="C0" parent="GEZ520"/>)";
+    for (int nLevel = 1; nLevel <= 20; ++nLevel) {
+        const std::string strLevel = std::to_string(nLevel);
+        for (const char* szGeneration : {"junior", "senior"})
+            strItems += "\n<item type=\"TAG\" id=\"P" + strLevel + "\" parent=\"C" +
+                        std::to_string(nLevel - 1) + "\" generation=\"" + szGeneration + "\"/>";
+        strItems += "\n<item type=\"TAG\" id=\"C" + strLevel + "\" parent=\"P" + strLevel + "\"/>";
+    }
+    folder.Edit({LINT_BASE, R"(<item type="IdRef")", strItems + R"(<item type="IdRef")"});
+    std::vector<std::string> vecMessage;
+    for (const LintFinding& finding : folder.Lint({"002"})) {
+        EXPECT_NE(finding.strRule, "load-failure");
+        if (finding.strRule == "beyond-limit")
+            vecMessage.push_back(finding.strMessage);
+    }
+    ASSERT_EQ(vecMessage.size(), 1u);
+    EXPECT_TRUE(vecMessage.front().ends_with("passes more than 100000 items: the load fails."))
+        << vecMessage.front();
+}
+
+TEST(LintLimitTest, ProcedureOfAnotherTypeIdIsToldWithBothProcedures)
+{
+    LintFolderText folder;
+    folder.Edit({LINT_TPL, R"(procId="PGE2015")", R"(procId="PGE2025")"});
+    const std::vector<LintFinding> vecFinding = folder.Lint({"101"});
+    ASSERT_EQ(vecFinding.size(), 1u);
+    EXPECT_EQ(vecFinding.front().eSeverity, LintSeverity::Error);
+    EXPECT_EQ(vecFinding.front().strMessage,
+              "procId is \"PGE2025\", but type id 101 is procedure \"PGE2015\": what a check and a "
+              "document tell comes from their files, so the two tell different procedures.");
+    EXPECT_EQ(vecFinding.front().strAdvice, "Write \"PGE2015\".");
+}
+
+TEST(LintLimitTest, ProcedureOfACrossBorderFileIsComparedToo)
+{
+    LintFolderText folder;
+    for (const char* szEnd : {"vld", "tpl"})
+        folder.Write(std::string("CrossBorder/PGE1650_") + szEnd + ".xml",
+                     R"(<define><report procId="PGE1660" procVR="240.0" reportId="GEZ850")"
+                     R"( reportVR="1.0" columnNum="2" label="x"/></define>)");
+    std::vector<std::string> vecFile;
+    for (const LintFinding& finding : folder.Lint({"301"}))
+        if (finding.strRule == "catalogue-mismatch")
+            vecFile.push_back(finding.strFile);
+    EXPECT_EQ(vecFile, (std::vector<std::string>{"CrossBorder/PGE1650_tpl.xml",
+                                                 "CrossBorder/PGE1650_vld.xml"}));
 }
 
 }  // namespace
