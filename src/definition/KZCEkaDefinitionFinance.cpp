@@ -22,7 +22,6 @@ namespace {
 constexpr std::size_t MESSAGE_BUFFER_SIZE = 100;
 /// Numbers that a conversion draws and drops.
 constexpr long DRAWN_NUMBERS = 1000;
-/// The one procedure whose report spreads over all records.
 /// A report that ends before the second record never hands over to the next.
 constexpr std::int64_t LEAST_HANDOVER_ROW = 2;
 
