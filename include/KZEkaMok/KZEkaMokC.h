@@ -33,11 +33,13 @@ extern "C"
 
     /// Checks a CSV file and forgets it. Ends all keys.
     /// Sets ProcId and Result, on failure Result and DetailErrorInfo.
+    /// Never two requests at once: on two threads they crash.
     /// \param szCsvPathName  Path of a Shift_JIS file ending in .csv, .CSV, .txt or .TXT.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvCheck(const char* szCsvPathName) KZEKAMOK_NOEXCEPT;
 
     /// Turns a CSV file into a document file. The columns aren't checked again: call
     /// KZEkaMok_CsvCheck first. Ends all keys. Sets Result, on failure DetailErrorInfo too.
+    /// Never two requests at once: on two threads they crash.
     /// \param szMokPathName  Path of the document, ending in .mok or .MOK, in a folder that exists.
     ///     An existing file is replaced.
     /// \param szZeimushoCD   Tax office, 5 digits.
@@ -70,12 +72,14 @@ extern "C"
     /// Checks a CSV file and keeps it under a key for KZEkaMok_ELCsvConvMok. A failure in the
     /// file drops what the key held before.
     /// Sets ProcId, RecordCount and Result, on failure Result and DetailErrorInfo.
+    /// Never two requests at once: on two threads they crash.
     /// \param lCsvDistKey  1 to 5.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvCheck(const char* szCsvPathName,
                                                         int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
     /// Turns a kept file into a document in memory; the key stays.
     /// Sets Result and MokData, on failure Result and DetailErrorInfo.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvConvMok(int64_t lCsvDistKey,
                                                           const char* szZeimushoCD,
                                                           const char* szNozeishaId,
@@ -91,6 +95,7 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
 
     /// Saves a text as a Shift_JIS file; keys stay. Sets Result, on failure DetailErrorInfo too.
+    /// Never two requests at once: on two threads they crash.
     /// \param szCsvPath  Path of the file, in a folder that exists. An existing file is replaced.
     /// \param szData     Taken as Shift_JIS bytes, NOT as UTF-8: Japanese in UTF-8 is refused or
     ///     comes out as other characters.
@@ -98,10 +103,12 @@ extern "C"
                                                       const char* szData) KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_CsvCheck, for the Finance family, whose equal errors are told once.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvCheckFinance(const char* szCsvPathName)
         KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_CsvConvMok, with the day of filing and the filer's postal code.
+    /// Never two requests at once: on two threads they crash.
     /// \param szTeishutsuEra    Era of the day of filing: 1 to 5, the era codes of CSV columns.
     /// \param szTeishutsuYear   Year of the era, 1 to 99.
     /// \param szTeishutsuMonth  1 to 12.
@@ -131,11 +138,13 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_ELCsvCheck.
+    /// Never two requests at once: on two threads they crash.
     /// \param lCsvDistKey  1 to 16.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvCheckFinance(
         const char* szCsvPathName, int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_ELCsvConvMok, with the arguments of KZEkaMok_CsvConvMokFinance.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvConvMokFinance(int64_t lCsvDistKey,
                                                                  const char* szZeimushoCD,
                                                                  const char* szNozeishaId,
@@ -160,10 +169,12 @@ extern "C"
     /// As KZEkaMok_CsvCheck, for the CrossBorder family, whose values may stand in double quotes
     /// and whose equal errors are told once. After a fault here and in
     /// KZEkaMok_CsvConvMokCrossBorder DetailErrorInfo stays empty.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvCheckCrossBorder(const char* szCsvPathName)
         KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_CsvConvMokFinance, with the arguments in another order.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvConvMokCrossBorder(const char* szCsvPathName,
                                                                    const char* szMokPathName,
                                                                    const char* szZeimushoCD,
@@ -187,11 +198,13 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_ELCsvCheck.
+    /// Never two requests at once: on two threads they crash.
     /// \param lCsvDistKey  1 to 10.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvCheckCrossBorder(
         const char* szCsvPathName, int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_ELCsvConvMok, with the arguments of KZEkaMok_CsvConvMokCrossBorder.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvConvMokCrossBorder(int64_t lCsvDistKey,
                                                                      const char* szZeimushoCD,
                                                                      const char* szTeishutsuEra,
@@ -215,6 +228,7 @@ extern "C"
 
     /// Ends all keys and frees what the library holds, but no result of the host's. The host's
     /// final call; it may be repeated, and requests may follow.
+    /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT void KZEkaMok_Terminate(void) KZEKAMOK_NOEXCEPT;
 
     /// \name The fields of a result
@@ -243,7 +257,10 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
     /// @}
 
-    /// Frees a result and its texts. Null is allowed; every other result only once.
+    /// Frees a result and its texts. Null is allowed. Every other result has to be freed once:
+    /// freed a second time, or asked for a text after that, it is memory that may be another's by
+    /// now, and the process crashes or goes wrong in silence. Texts end with their result: copy
+    /// what is to stay.
     KZEKAMOK_EXPORT void KZEkaMokResult_Free(KZEkaMokResult* pResult) KZEKAMOK_NOEXCEPT;
 
 #ifdef __cplusplus

@@ -19,12 +19,14 @@ class KZEKAMOK_EXPORT KZICsvConvMokEka
 public:
     /// Checks a CSV file and forgets it. Ends all keys.
     /// Sets ProcId and Result, on failure Result and DetailErrorInfo.
+    /// Never two requests at once: on two threads they crash.
     /// \param szCsvPathName  Path of a Shift_JIS file ending in .csv, .CSV, .txt or .TXT.
     std::shared_ptr<KZIConvertResultEka> CsvCheck(const char* szCsvPathName);
 
     /// Turns a CSV file into a document file. The columns aren't checked again: call CsvCheck
     /// first. Sets Result, on failure DetailErrorInfo too. Errors of an argument name its number
     /// from 1.
+    /// Never two requests at once: on two threads they crash.
     /// \param szMokPathName  Path of the document, ending in .mok or .MOK, in a folder that exists.
     ///     An existing file is replaced.
     /// \param szZeimushoCD   Tax office, 5 digits.
@@ -58,12 +60,14 @@ public:
     /// CsvConvMok and those of the other families) and every request of another family ends all
     /// keys. A failure in the file drops what the key held before.
     /// Sets ProcId, RecordCount and Result, on failure Result and DetailErrorInfo.
+    /// Never two requests at once: on two threads they crash.
     /// \param lCsvDistKey  1 to 5.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheck(const char* szCsvPathName,
                                                     std::int64_t lCsvDistKey);
 
     /// Turns a kept file into a document in memory; the key stays.
     /// Sets Result and MokData, on failure Result and DetailErrorInfo.
+    /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> ELCsvConvMok(std::int64_t lCsvDistKey,
                                                       const char* szZeimushoCD,
                                                       const char* szNozeishaId,
@@ -78,15 +82,18 @@ public:
                                                       const char* szTetsuzuki);
 
     /// Saves a text as a Shift_JIS file. Sets Result, on failure DetailErrorInfo too.
+    /// Never two requests at once: on two threads they crash.
     /// \param szCsvPath  Path of the file, in a folder that exists. An existing file is replaced.
     /// \param szData     Taken as Shift_JIS bytes, NOT as UTF-8: Japanese in UTF-8 is refused or
     ///     comes out as other characters.
     std::shared_ptr<KZIConvertResultEka> CsvWrite(const char* szCsvPath, const char* szData);
 
     /// The same for the Finance family, whose equal errors are told once.
+    /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> CsvCheckFinance(const char* szCsvPathName);
 
     /// As CsvConvMok, with the day of filing and the filer's postal code.
+    /// Never two requests at once: on two threads they crash.
     /// \param szTeishutsuEra    Era of the day of filing: 1 to 5, the era codes of CSV columns.
     /// \param szTeishutsuYear   Year of the era, 1 to 99.
     /// \param szTeishutsuMonth  1 to 12.
@@ -115,11 +122,13 @@ public:
                                                            const char* szNozeishaZip2);
 
     /// As ELCsvCheck.
+    /// Never two requests at once: on two threads they crash.
     /// \param lCsvDistKey  1 to 16.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheckFinance(const char* szCsvPathName,
                                                            std::int64_t lCsvDistKey);
 
     /// As ELCsvConvMok, with the arguments of CsvConvMokFinance.
+    /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> ELCsvConvMokFinance(std::int64_t lCsvDistKey,
                                                              const char* szZeimushoCD,
                                                              const char* szNozeishaId,
@@ -142,9 +151,11 @@ public:
 
     /// The same for the CrossBorder family, whose values may stand in double quotes. After a fault
     /// in CsvCheckCrossBorder and CsvConvMokCrossBorder DetailErrorInfo stays empty.
+    /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> CsvCheckCrossBorder(const char* szCsvPathName);
 
     /// As CsvConvMokFinance, with the arguments in another order.
+    /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> CsvConvMokCrossBorder(const char* szCsvPathName,
                                                                const char* szMokPathName,
                                                                const char* szZeimushoCD,
@@ -167,11 +178,13 @@ public:
                                                                const char* szSoftName);
 
     /// As ELCsvCheck.
+    /// Never two requests at once: on two threads they crash.
     /// \param lCsvDistKey  1 to 10.
     std::shared_ptr<KZIConvertResultEka> ELCsvCheckCrossBorder(const char* szCsvPathName,
                                                                std::int64_t lCsvDistKey);
 
     /// As ELCsvConvMok, with the arguments of CsvConvMokCrossBorder.
+    /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> ELCsvConvMokCrossBorder(std::int64_t lCsvDistKey,
                                                                  const char* szZeimushoCD,
                                                                  const char* szTeishutsuEra,
@@ -193,5 +206,6 @@ public:
                                                                  const char* szSoftName);
 
     /// Ends all keys and frees what the library holds. The host's final call; it may be repeated.
+    /// Never two requests at once: on two threads they crash.
     void Terminate();
 };

@@ -54,11 +54,13 @@
 
 /// Checks a CSV file and forgets it. Ends all keys.
 /// Sets ProcId and Result, on failure Result and DetailErrorInfo.
+/// Never two requests at once: on two threads they crash.
 /// \param szCsvPathName  Path of a Shift_JIS file ending in .csv, .CSV, .txt or .TXT.
 - (KZIConvertResultEka*)CsvCheck:(NSString*)szCsvPathName;
 
 /// Turns a CSV file into a document file. The columns aren't checked again: call CsvCheck: first.
 /// Ends all keys. Sets Result, on failure DetailErrorInfo too.
+/// Never two requests at once: on two threads they crash.
 /// \param szMokPathName  Path of the document, ending in .mok or .MOK, in a folder that exists. An
 ///     existing file is replaced.
 /// \param szZeimushoCD   Tax office, 5 digits.
@@ -91,11 +93,13 @@
 /// Checks a CSV file and keeps it under a key for ELCsvConvMok:. A failure in the file drops what
 /// the key held before.
 /// Sets ProcId, RecordCount and Result, on failure Result and DetailErrorInfo.
+/// Never two requests at once: on two threads they crash.
 /// \param lCsvDistKey  1 to 5.
 - (KZIConvertResultEka*)ELCsvCheck:(NSString*)szCsvPathName Param01:(int64_t)lCsvDistKey;
 
 /// Turns a kept file into a document in memory; the key stays.
 /// Sets Result and MokData, on failure Result and DetailErrorInfo.
+/// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)ELCsvConvMok:(int64_t)lCsvDistKey
                              Param01:(NSString*)szZeimushoCD
                              Param02:(NSString*)szNozeishaId
@@ -110,6 +114,7 @@
                              Param11:(NSString*)szTetsuzuki;
 
 /// Saves a text as a Shift_JIS file; keys stay. Sets Result, on failure DetailErrorInfo too.
+/// Never two requests at once: on two threads they crash.
 /// \param szCsvPath  Path of the file, in a folder that exists. An existing file is replaced.
 /// \param szData     Its UTF-8 bytes are taken as Shift_JIS, so only ASCII reaches the file as it
 ///     stands: a text in Japanese is refused or comes out as other characters.
@@ -117,12 +122,15 @@
 
 /// Ends all keys and frees what the library holds, but no result of the host's. The host's final
 /// call; it may be repeated, and requests may follow.
+/// Never two requests at once: on two threads they crash.
 - (void)Terminate;
 
 /// As CsvCheck:, for the Finance family, whose equal errors are told once.
+/// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)CsvCheckFinance:(NSString*)szCsvPathName;
 
 /// As CsvConvMok:, with the day of filing and the filer's postal code.
+/// Never two requests at once: on two threads they crash.
 /// \param szTeishutsuEra    Era of the day of filing: 1 Meiji to 5 Reiwa.
 /// \param szTeishutsuYear   Year of the era, 1 to 99.
 /// \param szTeishutsuMonth  1 to 12.
@@ -151,10 +159,12 @@
                              nozeishaZip2:(NSString*)szNozeishaZip2;
 
 /// As ELCsvCheck:.
+/// Never two requests at once: on two threads they crash.
 /// \param lCsvDistKey  1 to 16.
 - (KZIConvertResultEka*)ELCsvCheckFinance:(NSString*)szCsvPathName csvDistKey:(int64_t)lCsvDistKey;
 
 /// As ELCsvConvMok:, with the arguments of CsvConvMokFinance:.
+/// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)ELCsvConvMokFinance:(int64_t)lCsvDistKey
                                  zeimushoCD:(NSString*)szZeimushoCD
                                  nozeishaId:(NSString*)szNozeishaId
@@ -178,9 +188,11 @@
 /// As CsvCheck:, for the CrossBorder family, whose values may stand in double quotes and whose
 /// equal errors are told once. After a fault here and in CsvConvMokCrossBorder: DetailErrorInfo
 /// stays empty.
+/// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)CsvCheckCrossBorder:(NSString*)szCsvPathName;
 
 /// As CsvConvMokFinance:, with the arguments in another order.
+/// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)CsvConvMokCrossBorder:(NSString*)szCsvPathName
                                   mokPathName:(NSString*)szMokPathName
                                    zeimushoCD:(NSString*)szZeimushoCD
@@ -203,11 +215,13 @@
                                      softName:(NSString*)szSoftName;
 
 /// As ELCsvCheck:.
+/// Never two requests at once: on two threads they crash.
 /// \param lCsvDistKey  1 to 10.
 - (KZIConvertResultEka*)ELCsvCheckCrossBorder:(NSString*)szCsvPathName
                                    csvDistKey:(int64_t)lCsvDistKey;
 
 /// As ELCsvConvMok:, with the arguments of CsvConvMokCrossBorder:.
+/// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)ELCsvConvMokCrossBorder:(int64_t)lCsvDistKey
                                      zeimushoCD:(NSString*)szZeimushoCD
                                    teishutsuEra:(NSString*)szTeishutsuEra
