@@ -6,7 +6,6 @@
 #include <string_view>
 
 #include "Advice.h"
-#include "CheckWords.h"
 #include "FilerFields.h"
 #include "Installation.h"
 #include "Language.h"
@@ -117,7 +116,8 @@ FileCheck::FileCheck(KZICsvConvMokEka& library,
       m_strFile(strFile),
       m_source(strFile, family),
       m_operations(library, m_source.OfFamily()),
-      m_pProcedure(definitions.Find(m_source.OfFamily(), m_source.Cells().TypeId()))
+      m_pProcedure(definitions.Find(m_source.OfFamily(), m_source.Cells().TypeId())),
+      m_pRules(m_pProcedure != nullptr ? std::make_unique<RuleBook>(*m_pProcedure) : nullptr)
 {
 }
 
@@ -267,7 +267,7 @@ void FileCheck::ExplainCell(ReportedError& error) const
     if (pForm == nullptr)
         return;
     error.strName = pForm->labels.Find(entry.lColumn, entry.lColumnEnd);
-    error.strRule = RuleOf(*m_pProcedure, entry, m_source.Cells().RecordCount());
+    error.strRule = m_pRules->RuleOf(entry, m_source.Cells().RecordCount());
 }
 
 }  // namespace host

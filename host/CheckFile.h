@@ -1,12 +1,14 @@
 // Checks one file by the library.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "FamilyOperations.h"
 #include "FileReport.h"
 #include "FormDefinition.h"
+#include "RuleBook.h"
 #include "SourceFile.h"
 
 namespace host {
@@ -45,6 +47,7 @@ private:
     SourceFile m_source;
     FamilyOperations m_operations;
     const ProcedureDefinition* m_pProcedure;  ///< of the file's type id; null if unknown
+    std::unique_ptr<RuleBook> m_pRules;       ///< its rules; null if unknown
 };
 
 }  // namespace host

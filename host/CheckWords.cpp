@@ -4,9 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "CText.h"
 #include "CheckShape.h"
-#include "JoinedText.h"
 #include "Language.h"
 #include "WordKinds.h"
 
@@ -14,7 +12,6 @@ namespace host {
 namespace {
 
 constexpr Text NOT_GIVEN = {"(not given)", "（指定なし）"};
-constexpr Text ALTERNATIVE = {"; or ", "／"};
 
 /// How many columns an item is said to look at from its own.
 long OwnColumns(const CatalogueItem& item)
@@ -146,25 +143,6 @@ std::string ConditionWords(const CheckDefinition& check, const FormDefinition& f
                {strColumns, RuleWords(check, form)});
 }
 
-bool ReportsAt(const CatalogueItem& item, const CheckDefinition& check, const DetailEntry& entry)
-{
-    if (HasErrorRecord(item, check) && CText::ReadLong(check.strErrRow.c_str()) != entry.lRecord)
-        return false;
-    const long lLast = entry.lColumnEnd == SINGLE_COLUMN ? entry.lColumn : entry.lColumnEnd;
-    return std::ranges::any_of(CellsReported(item, check, ""), [&](const CellSpan& span) {
-        return span.lColumn == entry.lColumn && span.Last() == lLast;
-    });
-}
-
-bool ReportsCode(const CatalogueItem& item, const CheckDefinition& check, KZCEkaMessage_t eMessage)
-{
-    const KZCEkaMessage_t eOverride = FindEkaMessage(check.strMessage);
-    // A group of a date keeps its code in the forms that it knows.
-    const bool bOwn = eOverride == MSG_NONE || !ReadsMessage(item.shape.ePlace);
-    return (eOverride != MSG_NONE && eMessage == eOverride) ||
-           (bOwn && std::ranges::find(item.messages, eMessage) != item.messages.end());
-}
-
 /// The condition looks at errors, not at what is written.
 bool IsOnErrors(const CheckDefinition& condition)
 {
@@ -188,29 +166,6 @@ std::string WholeWords(const CheckDefinition& check, const FormDefinition& form,
                                  : Say({"if {1}: {2}", "{1}場合：{2}"}, {strConditions, strRule});
 }
 
-/// Adds the words of the checks that report such an error there, each once.
-/// \param bOwnForm  The form is that of the error's record.
-void AddRules(std::vector<std::string>& vecWords,
-              const FormDefinition& form,
-              const DetailEntry& entry,
-              bool bOwnForm)
-{
-    if (entry.lRecord == FILE_RECORD || entry.lRecord == ARGUMENT_RECORD ||
-        entry.eMessage == MSG_NONE)
-        return;
-    for (const ItemDefinition& item : form.vecItem) {
-        for (const CheckDefinition& check : item.vecCheck) {
-            const CatalogueItem* pItem = FindCatalogueItem(check.strKeyword);
-            if (pItem == nullptr || !(bOwnForm || HasErrorRecord(*pItem, check)) ||
-                !ReportsCode(*pItem, check, entry.eMessage) || !ReportsAt(*pItem, check, entry))
-                continue;
-            std::string strWords = WholeWords(check, form, false);
-            if (std::ranges::find(vecWords, strWords) == vecWords.end())
-                vecWords.push_back(std::move(strWords));
-        }
-    }
-}
-
 }  // namespace
 
 std::string CheckWords(const CheckDefinition& check, const FormDefinition& form)
@@ -218,25 +173,9 @@ std::string CheckWords(const CheckDefinition& check, const FormDefinition& form)
     return WholeWords(check, form, true);
 }
 
-std::string RuleOf(const FormDefinition& form, const DetailEntry& entry)
+std::string RefusedCheckWords(const CheckDefinition& check, const FormDefinition& form)
 {
-    std::vector<std::string> vecWords;
-    AddRules(vecWords, form, entry, true);
-    return JoinedText(vecWords, Say(ALTERNATIVE));
-}
-
-std::string RuleOf(const ProcedureDefinition& procedure,
-                   const DetailEntry& entry,
-                   std::size_t nRecordCount)
-{
-    if (entry.lRecord <= FILE_RECORD)
-        return {};
-    const FormDefinition* pOwn =
-        procedure.FormAt(static_cast<std::size_t>(entry.lRecord), nRecordCount);
-    std::vector<std::string> vecWords;
-    for (const FormDefinition& form : procedure.vecForm)
-        AddRules(vecWords, form, entry, &form == pOwn);
-    return JoinedText(vecWords, Say(ALTERNATIVE));
+    return WholeWords(check, form, false);
 }
 
 }  // namespace host

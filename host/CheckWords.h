@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <string>
 
-#include "DetailTable.h"
 #include "FormDefinition.h"
 
 namespace host {
@@ -14,15 +13,8 @@ namespace host {
 /// its parameters say nothing. Never empty unless the keyword is.
 std::string CheckWords(const CheckDefinition& check, const FormDefinition& form);
 
-/// The words of the checks of the form that report such an error there, in their order, each once,
-/// joined by "／" or "; or ". Empty if there is none, as for errors of files and arguments. Leaves
-/// out the conditions that other columns have no error: as the check refused, they held.
-std::string RuleOf(const FormDefinition& form, const DetailEntry& entry);
-/// The same of the form of the error's record, together with the checks of other forms that place
-/// their errors in that record.
-/// \param nRecordCount  Records of the file.
-std::string RuleOf(const ProcedureDefinition& procedure,
-                   const DetailEntry& entry,
-                   std::size_t nRecordCount);
+/// The same of a check that refused a cell: without the conditions that other columns have no
+/// error, as they held.
+std::string RefusedCheckWords(const CheckDefinition& check, const FormDefinition& form);
 
 }  // namespace host

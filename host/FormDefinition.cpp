@@ -1,6 +1,7 @@
 #include "FormDefinition.h"
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "BundleFiles.h"
@@ -15,6 +16,8 @@ namespace host {
 namespace {
 
 constexpr const char* LABEL_SEPARATOR = " / ";
+constexpr const char* ELLIPSIS = "…";
+constexpr std::size_t LABELS_MAX_BYTES = 1000;
 constexpr int TYPE_ID_MAX = 999;
 
 long ReadNumber(const XmlElement& element, const char* szAttribute)
@@ -28,8 +31,12 @@ long ReadColumn(const XmlElement& element, const char* szAttribute)
     return std::clamp(ReadNumber(element, szAttribute), 0L, COLUMNS_MAX);
 }
 
+/// Joins the labels of a column. They are repeated at each error there: what goes beyond
+/// LABELS_MAX_BYTES, which no real form reaches, becomes an ellipsis.
 void AppendLabel(std::string& strLabels, const std::string& strLabel)
 {
+    if (strLabels.size() > LABELS_MAX_BYTES)
+        return;
     if (strLabel.empty() || strLabels == strLabel ||
         strLabels.ends_with(LABEL_SEPARATOR + strLabel) ||
         strLabels.starts_with(strLabel + LABEL_SEPARATOR))
@@ -37,6 +44,12 @@ void AppendLabel(std::string& strLabels, const std::string& strLabel)
     if (!strLabels.empty())
         strLabels += LABEL_SEPARATOR;
     strLabels += strLabel;
+    if (strLabels.size() <= LABELS_MAX_BYTES)
+        return;
+    std::size_t nEnd = LABELS_MAX_BYTES;
+    while ((static_cast<unsigned char>(strLabels[nEnd]) & 0xc0) == 0x80)
+        --nEnd;
+    strLabels.replace(nEnd, std::string::npos, ELLIPSIS);
 }
 
 }  // namespace
@@ -82,15 +95,18 @@ ItemDefinition ReadItem(const XmlElement& element)
 /// A group without a column checks from the column of its first child on.
 void TakeColumnOfChild(std::vector<ItemDefinition>& vecItem)
 {
+    std::map<std::string, long, std::less<>> mapColumn;  // of the first child, by parent
+    for (const ItemDefinition& item : vecItem)
+        mapColumn.try_emplace(item.strParent, item.lColumn);
     for (ItemDefinition& item : vecItem) {
         if (item.lColumn > 0 || !item.IsGroup())
             continue;
-        const auto child = std::ranges::find(vecItem, item.strId, &ItemDefinition::strParent);
-        if (child == vecItem.end())
+        const auto child = mapColumn.find(item.strId);
+        if (child == mapColumn.end())
             continue;
         for (CheckDefinition& check : item.vecCheck)
             if (check.lColumn <= 0)
-                check.lColumn = child->lColumn;
+                check.lColumn = child->second;
     }
 }
 
@@ -210,6 +226,7 @@ struct Definitions::Cache
     bool bBaseRead = false;
     bool bHasBase = false;
     std::vector<ProcedureDefinition> vecBase;
+    std::map<std::string, std::size_t, std::less<>> mapBase;  ///< places in vecBase by type id
     std::map<std::pair<Family, std::string>, std::optional<ProcedureDefinition>> mapFamily;
 
     void ReadBase(const std::string& strBundle);
@@ -230,8 +247,7 @@ void Definitions::Cache::ReadBase(const std::string& strBundle)
     for (const XmlElement& element : file.root->vecChild) {
         const std::string& strTypeId = element.Attribute("id");
         // The first of two with one type id counts.
-        if (element.strName != "report" ||
-            std::ranges::find(vecBase, strTypeId, &ProcedureDefinition::strTypeId) != vecBase.end())
+        if (element.strName != "report" || !mapBase.try_emplace(strTypeId, vecBase.size()).second)
             continue;
         vecBase.push_back({Family::Base,
                            strTypeId,
@@ -288,9 +304,8 @@ const ProcedureDefinition* Definitions::Find(Family eFamily, const std::string& 
     if (eFamily != Family::Base)
         return m_pCache->FindFamily(m_strBundle, eFamily, strTypeId);
     m_pCache->ReadBase(m_strBundle);
-    const auto it =
-        std::ranges::find(m_pCache->vecBase, strTypeId, &ProcedureDefinition::strTypeId);
-    return it != m_pCache->vecBase.end() ? &*it : nullptr;
+    const auto it = m_pCache->mapBase.find(strTypeId);
+    return it != m_pCache->mapBase.end() ? &m_pCache->vecBase[it->second] : nullptr;
 }
 
 std::vector<std::string> Definitions::TypeIds(Family eFamily) const

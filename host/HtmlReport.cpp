@@ -6,6 +6,7 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <tuple>
 
 #include "Advice.h"
 #include "ErrorCounts.h"
@@ -74,7 +75,14 @@ private:
     {
         return "g" + Number(m_nFile) + "-" + Number(nGroup + 1);
     }
-    std::string TargetOf(const std::function<bool(const ReportedError&)>& fits) const;
+    /// The group of that number, or the file itself if none fits.
+    template <class Map, class Key>
+    std::string TargetOf(const Map& mapGroup, const Key& key) const
+    {
+        const auto it = mapGroup.find(key);
+        return it != mapGroup.end() ? GroupId(it->second) : "f" + Number(m_nFile);
+    }
+    void NoteGroups();
 
     std::ostream& m_out;
     const FileReport& m_report;
@@ -82,6 +90,10 @@ private:
     std::size_t m_nListed;
     std::vector<ColumnCount> m_vecColumn;
     std::vector<ErrorGroup> m_vecGroup;
+    /// Places in m_vecColumn by column, last column and label.
+    std::map<std::tuple<long, long, std::string>, std::size_t> m_mapColumnIndex;
+    std::map<std::size_t, std::size_t> m_mapGroupOfColumn;  ///< the first, by place in m_vecColumn
+    std::map<std::string, std::size_t> m_mapGroupOfCode;    ///< the first
 };
 
 FilePart::FilePart(std::ostream& out,
@@ -95,6 +107,7 @@ FilePart::FilePart(std::ostream& out,
       m_vecColumn(CountByColumn(report)),
       m_vecGroup(GroupErrors(report, m_nListed))
 {
+    NoteGroups();
 }
 
 void FilePart::Write()
@@ -148,13 +161,18 @@ void FilePart::WriteNotices()
               AdviceFor(HE70022E));
 }
 
-/// The first group that fits.
-std::string FilePart::TargetOf(const std::function<bool(const ReportedError&)>& fits) const
+void FilePart::NoteGroups()
 {
-    for (std::size_t n = 0; n < m_vecGroup.size(); ++n)
-        if (fits(m_report.vecError[m_vecGroup[n].vecError.front()]))
-            return GroupId(n);
-    return "f" + Number(m_nFile);
+    for (std::size_t n = 0; n < m_vecColumn.size(); ++n) {
+        const ColumnCount& column = m_vecColumn[n];
+        m_mapColumnIndex.try_emplace({column.lColumn, column.lColumnEnd, column.strLabel}, n);
+    }
+    for (std::size_t n = 0; n < m_vecGroup.size(); ++n) {
+        const ReportedError& error = m_report.vecError[m_vecGroup[n].vecError.front()];
+        m_mapGroupOfCode.try_emplace(error.entry.strCode, n);
+        if (error.eScope == ErrorScope::Cell)
+            m_mapGroupOfColumn.try_emplace(ColumnIndex(error), n);
+    }
 }
 
 void FilePart::WriteCharts()
@@ -166,9 +184,7 @@ void FilePart::WriteCharts()
         const std::string strName =
             ColumnNumbers(column.lColumn, column.lColumnEnd) + " " + MakeSafe(column.strLabel);
         vecBar.push_back({HtmlOwnText(strName), strName, column.nErrors, "column", Number(n),
-                          TargetOf([&](const ReportedError& error) {
-                              return error.eScope == ErrorScope::Cell && ColumnIndex(error) == n;
-                          })});
+                          TargetOf(m_mapGroupOfColumn, n)});
     }
     WriteChart(Say({"Errors by column", "項目別のエラー"}), std::move(vecBar));
 
@@ -180,9 +196,7 @@ void FilePart::WriteCharts()
         const std::string strCode = MakeSafe(count.strCode);
         vecBar.push_back({"<code>" + HtmlOwnText(strCode) + "</code> " + mapText[count.strCode],
                           strCode + " " + mapText[count.strCode], count.nErrors, "code", strCode,
-                          TargetOf([&](const ReportedError& error) {
-                              return error.entry.strCode == count.strCode;
-                          })});
+                          TargetOf(m_mapGroupOfCode, count.strCode)});
     }
     WriteChart(Say({"Errors by code", "コード別のエラー"}), std::move(vecBar));
     m_out << "</div>\n";
@@ -348,11 +362,9 @@ void FilePart::WriteCells()
 /// The place of the error's column among the file's columns with errors.
 std::size_t FilePart::ColumnIndex(const ReportedError& error) const
 {
-    const auto it = std::ranges::find_if(m_vecColumn, [&error](const ColumnCount& column) {
-        return column.lColumn == error.entry.lColumn &&
-               column.lColumnEnd == error.entry.lColumnEnd && column.strLabel == error.strName;
-    });
-    return static_cast<std::size_t>(it - m_vecColumn.begin());
+    const auto it =
+        m_mapColumnIndex.find({error.entry.lColumn, error.entry.lColumnEnd, error.strName});
+    return it != m_mapColumnIndex.end() ? it->second : m_vecColumn.size();
 }
 
 void WriteFileTable(std::ostream& out, const std::vector<FileReport>& vecReport)

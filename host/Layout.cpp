@@ -1,7 +1,9 @@
 #include "Layout.h"
 
 #include <algorithm>
+#include <map>
 #include <ostream>
+#include <set>
 
 #include "CatalogueText.h"
 #include "CheckWords.h"
@@ -47,11 +49,19 @@ std::string FormTitle(const ProcedureDefinition& procedure, const FormDefinition
                 RecordsOfForm(procedure, form), std::to_string(form.lColumnNum)});
 }
 
-void AddOnce(std::vector<std::string>& vecText, const std::string& strText)
+/// Adds texts to lists of which each holds a text once.
+class AddOnce
 {
-    if (!strText.empty() && std::ranges::find(vecText, strText) == vecText.end())
-        vecText.push_back(strText);
-}
+public:
+    void operator()(std::vector<std::string>& vecText, const std::string& strText)
+    {
+        if (!strText.empty() && m_mapSeen[&vecText].insert(strText).second)
+            vecText.push_back(strText);
+    }
+
+private:
+    std::map<const std::vector<std::string>*, std::set<std::string>> m_mapSeen;
+};
 
 /// The text for an element of HTML and for a table of Markdown: nothing in it is markup or hidden.
 /// Quotes stay, as they mean nothing there.
@@ -137,14 +147,15 @@ std::vector<LayoutColumn> LayoutOf(const FormDefinition& form)
         const auto nColumn = static_cast<std::size_t>(lColumn);
         return lColumn > 0 && nColumn <= vecColumn.size() ? &vecColumn[nColumn - 1] : nullptr;
     };
+    AddOnce addOnce;
     const auto addChecks = [&](const ItemDefinition& item) {
         for (const CheckDefinition& check : item.vecCheck)
             if (LayoutColumn* pColumn = at(check.lColumn))
-                AddOnce(pColumn->vecCheck, Words(item, check, form));
+                addOnce(pColumn->vecCheck, Words(item, check, form));
     };
     for (const ItemDefinition& item : form.vecItem) {
         if (LayoutColumn* pColumn = at(item.lColumn))
-            AddOnce(pColumn->vecTag, item.strId);
+            addOnce(pColumn->vecTag, item.strId);
         if (!item.IsGroup())
             addChecks(item);
     }

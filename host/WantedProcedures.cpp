@@ -1,6 +1,7 @@
 #include "WantedProcedures.h"
 
 #include <algorithm>
+#include <set>
 
 #include "JoinedText.h"
 #include "Language.h"
@@ -34,9 +35,10 @@ std::vector<const ProcedureDefinition*> WantedProcedures(const Definitions& defi
                                                          std::vector<std::string>& vecProblem)
 {
     const std::vector<std::string> vecAll = AllTypeIds(definitions);
+    const std::set<std::string> setAll(vecAll.begin(), vecAll.end());
     std::vector<const ProcedureDefinition*> vecProcedure;
     for (const std::string& strTypeId : vecTypeId.empty() ? vecAll : vecTypeId) {
-        if (std::ranges::find(vecAll, strTypeId) == vecAll.end())
+        if (!setAll.contains(strTypeId))
             throw UsageError(Say(UNKNOWN, {MakeSafeAndShort(strTypeId, SHOWN_CHARACTERS),
                                            MakeSafe(JoinedText(vecAll))}));
         if (const ProcedureDefinition* pProcedure = definitions.Find(strTypeId))

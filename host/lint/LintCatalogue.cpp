@@ -1,6 +1,8 @@
 // Ids against the library's catalogue of procedures, and the type ids of the base family.
 #include <algorithm>
+#include <map>
 #include <set>
+#include <string_view>
 
 #include "GenerationRules.h"
 #include "JoinedText.h"
@@ -49,14 +51,15 @@ void LookAtTypeIds(const LintFile& file,
                    const std::vector<std::string>& vecTypeId,
                    LintReport& report)
 {
-    for (auto form = file.vecForm.begin(); form != file.vecForm.end(); ++form) {
-        const auto same = std::ranges::find(file.vecForm, form->strTypeId, &LintForm::strTypeId);
-        if (same != form)
-            report.Add(LintRule::DuplicateReport, form->At(file.strName), DUPLICATE_REPORT,
-                       {form->strTypeId, std::to_string(same->pElement->lLine)});
-        else if (GenerationRules::Find(form->strTypeId) == nullptr)
-            report.Add(LintRule::UnexpectedReport, form->At(file.strName), UNEXPECTED_REPORT,
-                       {form->strTypeId});
+    std::map<std::string_view, const LintForm*> mapFirst;  // by type id
+    for (const LintForm& form : file.vecForm) {
+        const auto [first, bNew] = mapFirst.try_emplace(form.strTypeId, &form);
+        if (!bNew)
+            report.Add(LintRule::DuplicateReport, form.At(file.strName), DUPLICATE_REPORT,
+                       {form.strTypeId, std::to_string(first->second->pElement->lLine)});
+        else if (GenerationRules::Find(form.strTypeId) == nullptr)
+            report.Add(LintRule::UnexpectedReport, form.At(file.strName), UNEXPECTED_REPORT,
+                       {form.strTypeId});
     }
     std::vector<std::string> vecWanted = vecTypeId;
     if (vecTypeId.empty()) {
@@ -68,7 +71,7 @@ void LookAtTypeIds(const LintFile& file,
         });
     }
     for (const std::string& strTypeId : vecWanted)
-        if (std::ranges::find(file.vecForm, strTypeId, &LintForm::strTypeId) == file.vecForm.end())
+        if (!mapFirst.contains(strTypeId))
             report.Add(LintRule::MissingReport, {file.strName, file.xml.root->lLine},
                        MISSING_REPORT, {strTypeId});
 }

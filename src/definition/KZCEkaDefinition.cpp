@@ -44,21 +44,30 @@ int KZCEkaDefinition::LoadTree(KZCEkaXDOM& dom, const char* szTypeId, bool bVali
     while (lMove == STATUS_OK &&
            (dom.GetNodeName() != "report" || dom.GetAttribute("id") != szTypeId))
         lMove = dom.MoveNextSibling();
-    if (lMove == STATUS_OK) {
-        m_strProcId = dom.GetAttribute("procId");
-        m_strProcVR = dom.GetAttribute("procVR");
-        m_strReportId = dom.GetAttribute("reportId");
-        m_strReportVR = dom.GetAttribute("reportVR");
-    }
+    if (lMove == STATUS_OK)
+        TakeTexts(dom);
     if (m_strProcId.empty())
         RaiseFault(FUNCTION, CText::CutToBuffer(
                                  std::string("定義体に対象の申請番号が存在しません。:") + szTypeId,
                                  MESSAGE_BUFFER_SIZE)
                                  .c_str());
+    return LoadItems(dom, bValidate);
+}
 
+void KZCEkaDefinition::TakeTexts(const KZCEkaXDOM& dom)
+{
+    m_strProcId = dom.GetAttribute("procId");
+    m_strProcVR = dom.GetAttribute("procVR");
+    m_strReportId = dom.GetAttribute("reportId");
+    m_strReportVR = dom.GetAttribute("reportVR");
+}
+
+int KZCEkaDefinition::LoadItems(KZCEkaXDOM& dom, bool bValidate)
+{
+    constexpr const char* FUNCTION = "KZCEkaDefinition::CreateDefinition";
     m_pReport = std::make_unique<KZCEkaMOKDefReport>();
     m_pReport->Initialize(m_strReportId.c_str(), m_strReportVR.c_str());
-    for (lMove = dom.MoveFirstChild(); lMove == STATUS_OK; lMove = dom.MoveNextSibling()) {
+    for (long lMove = dom.MoveFirstChild(); lMove == STATUS_OK; lMove = dom.MoveNextSibling()) {
         if (dom.GetNodeName() != "item")
             continue;
         if (!AddNode(dom, bValidate)) {

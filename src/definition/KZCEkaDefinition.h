@@ -34,6 +34,13 @@ public:
     const char* GetReportId() const { return m_strReportId.c_str(); }
 
 protected:
+    /// The texts of the report element under the cursor.
+    void TakeTexts(const KZCEkaXDOM& dom);
+    /// Makes the tree of the report element under the cursor, whose texts have been taken. Leaves
+    /// the cursor on one of its children if there are any. \return STATUS_NG if an item can't be
+    /// made or hung. Throws FAULT.
+    int LoadItems(KZCEkaXDOM& dom, bool bValidate);
+
     std::string m_strProcId;
     std::string m_strProcVR;
     std::string m_strReportId;

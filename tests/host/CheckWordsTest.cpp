@@ -1,4 +1,5 @@
 #include "CheckWords.h"
+#include "RuleBook.h"
 
 #include <gtest/gtest.h>
 
