@@ -6,6 +6,7 @@
 
 #include "Advice.h"
 #include "ErrorCounts.h"
+#include "SafeText.h"
 
 namespace host {
 namespace {
@@ -123,7 +124,8 @@ nlohmann::ordered_json FileToJson(const FileReport& report, const ReportStyle& s
 
 std::string JsonText(const nlohmann::ordered_json& value, int nIndent)
 {
-    return value.dump(nIndent, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace);
+    return MakeSafeJson(
+        value.dump(nIndent, ' ', /*ensure_ascii=*/false, Json::error_handler_t::replace));
 }
 
 void WriteJson(std::ostream& out,

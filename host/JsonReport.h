@@ -14,7 +14,8 @@ namespace host {
 /// from outside and may not be UTF-8: write it by JsonText.
 nlohmann::ordered_json FileToJson(const FileReport& report, const ReportStyle& style);
 
-/// The value as UTF-8 text without a line end; what isn't UTF-8 becomes U+FFFD.
+/// The value as UTF-8 text without a line end; what isn't UTF-8 becomes U+FFFD, and what is hidden
+/// or would reorder its surroundings stands escaped.
 /// \param nIndent  Blanks for each level; -1 for all on one line.
 std::string JsonText(const nlohmann::ordered_json& value, int nIndent = -1);
 

@@ -98,15 +98,10 @@ std::vector<std::string> EscapedAll(const std::vector<std::string>& vecText)
     return vecEscaped;
 }
 
-std::string CsvCell(const std::string& strText)
+/// The texts as lines of one cell, with nothing hidden in them.
+std::string SafeLines(const std::vector<std::string>& vecText)
 {
-    std::string strCell = "\"";
-    for (const char c : strText) {
-        if (c == '"')
-            strCell += '"';
-        strCell += c;
-    }
-    return strCell + '"';
+    return JoinedText(vecText, "\n", [](const std::string& strText) { return MakeSafe(strText); });
 }
 
 /// A check in words, with what its item adds to it.
@@ -224,9 +219,9 @@ void WriteLayoutCsv(std::ostream& out, const Procedures& vecProcedure)
     for (const ProcedureDefinition* pProcedure : vecProcedure)
         for (const FormDefinition& form : pProcedure->vecForm)
             for (const LayoutColumn& column : LayoutOf(form))
-                writeLine({pProcedure->strTypeId, form.strReportId, std::to_string(column.lColumn),
-                           column.strLabel, JoinedText(column.vecTag, "\n"),
-                           JoinedText(column.vecCheck, "\n")});
+                writeLine({MakeSafe(pProcedure->strTypeId), MakeSafe(form.strReportId),
+                           std::to_string(column.lColumn), MakeSafe(column.strLabel),
+                           SafeLines(column.vecTag), SafeLines(column.vecCheck)});
 }
 
 void WriteProcedureList(std::ostream& out, const Procedures& vecProcedure)

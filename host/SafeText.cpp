@@ -20,6 +20,7 @@ constexpr CodeRange ESCAPED[] = {
     {0x7f, 0x9f},        // delete and the second set of control characters
     {0xad, 0xad},        // soft hyphen
     {0x61c, 0x61c},      // Arabic letter mark
+    {0x180e, 0x180e},    // Mongolian vowel separator
     {0x200b, 0x200f},    // zero width, directional marks
     {0x2028, 0x202e},    // line and paragraph separators, directional embeddings
     {0x2060, 0x206f},    // invisible operators, directional isolates
@@ -107,6 +108,18 @@ bool IsEscaped(char32_t cCode)
     });
 }
 
+/// As JSON writes it: two surrogates beyond the first plane.
+void AppendJsonEscape(std::string& strOut, char32_t cCode)
+{
+    constexpr char32_t PLANE = 0x10000;
+    if (cCode < PLANE) {
+        AppendFormatted(strOut, "\\u%04lx", cCode);
+        return;
+    }
+    AppendFormatted(strOut, "\\u%04lx", 0xd800 + ((cCode - PLANE) >> 10));
+    AppendFormatted(strOut, "\\u%04lx", 0xdc00 + ((cCode - PLANE) & 0x3ff));
+}
+
 /// \return Bytes of strText that went into strOut.
 std::size_t AppendSafe(std::string& strOut, std::string_view strText, std::size_t nLimit)
 {
@@ -139,6 +152,39 @@ std::string MakeSafeAndShort(std::string_view strText, std::size_t nLimit)
     if (AppendSafe(strOut, strText, nLimit) < strText.size())
         strOut += "… (" + std::to_string(strText.size()) + " bytes in all)";
     return strOut;
+}
+
+std::string MakeSafeJson(std::string_view strJson)
+{
+    constexpr char32_t DELETE = 0x7f;
+    std::string strOut;
+    strOut.reserve(strJson.size());
+    while (!strJson.empty()) {
+        const Character character = ReadCharacter(strJson);
+        if (character.cCode >= DELETE && IsEscaped(character.cCode))
+            AppendJsonEscape(strOut, character.cCode);
+        else
+            strOut += strJson.substr(0, std::max<std::size_t>(character.nBytes, 1));
+        strJson.remove_prefix(std::max<std::size_t>(character.nBytes, 1));
+    }
+    return strOut;
+}
+
+std::string CsvCell(std::string_view strText)
+{
+    static constexpr std::string_view FORMULA_STARTS[] = {"=",  "+",  "-",  "@",  "\t",
+                                                          "\r", "＝", "＋", "－", "＠"};
+    std::string strCell = "\"";
+    if (std::ranges::any_of(FORMULA_STARTS, [strText](std::string_view strStart) {
+            return strText.starts_with(strStart);
+        }))
+        strCell += CELL_OF_TEXT;
+    for (const char c : strText) {
+        if (c == '"')
+            strCell += '"';
+        strCell += c;
+    }
+    return strCell + '"';
 }
 
 }  // namespace host

@@ -166,7 +166,7 @@ std::string ResultText(const ReportedError& error)
 {
     std::string strText = MessageText(error);
     if (!error.strRule.empty())
-        strText += Say(RULE, {error.strRule});
+        strText += Say(RULE, {MakeSafe(error.strRule)});
     if (error.value && error.value->empty())
         strText += Say(EMPTY);
     else if (error.value)

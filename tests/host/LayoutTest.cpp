@@ -156,6 +156,23 @@ TEST_F(HostileLabelTest, PageAndTableShowItAndDoNotObeyIt)
     }
 }
 
+TEST(HostileCellTest, SpreadsheetTakesNoTextForAFormulaAndNothingIsHidden)
+{
+    const TempFolder folder;
+    folder.Write("KZEkaDefine.xml",
+                 "<define><report id=\"=1\" columnNum=\"1\" procId=\"PGE5010\" reportId=\"+1\">"
+                 "<item type=\"Normal\" id=\"@T\" parent=\"+1\" column=\"1\" "
+                 "label=\"=HYPERLINK(&quot;x&quot;)&#x9b;&#x202e;&#9;&#13;\">"
+                 "<valid id=\"-1+cmd\"/></item></report></define>");
+    const Definitions definitions(folder.Path());
+    std::ostringstream out;
+    WriteLayoutCsv(out, {definitions.Find("=1")});
+    EXPECT_EQ(out.str(),
+              "\"Type id\",\"Report\",\"Column\",\"Label\",\"Tag\",\"Checks\"\r\n"
+              "\"'=1\",\"'+1\",\"1\",\"'=HYPERLINK(\"\"x\"\")\\u{9b}\\u{202e}\\t\\r\",\"'@T\","
+              "\"'-1+cmd\"\r\n");
+}
+
 TEST_F(HostileLabelTest, ListShowsItInItsLine)
 {
     std::ostringstream out;

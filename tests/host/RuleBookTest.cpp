@@ -71,7 +71,6 @@ TEST_F(RuleBookTest, LongRuleIsCutBehindAWholeCharacter)
     CheckDefinition check;
     check.strKeyword = "contain";
     check.lColumn = 3;
-    // "“" at the front shifts the three bytes of each character.
     for (int n = 0; n < 3000; ++n)
         check.strValue += "見";
     const std::string strRule = RuleOf(Form({check}), Entry(1, 3, HE70009E));
