@@ -10,6 +10,7 @@
 #include "Language.h"
 #include "SafeText.h"
 #include "UsageError.h"
+#include "files/Descriptor.h"
 
 namespace host {
 namespace {
@@ -32,26 +33,6 @@ constexpr Text WRITABLE = {
     "others than you can write the file. Look at it, and take the right away: chmod go-w.",
     "ほかの利用者も書き込めるファイルです。内容を確認し、chmod go-w "
     "で書き込みの許可を外してください。"};
-
-/// An open file, or -1.
-class Descriptor
-{
-public:
-    explicit Descriptor(int nDescriptor) : m_nDescriptor(nDescriptor) {}
-    ~Descriptor()
-    {
-        if (m_nDescriptor >= 0)
-            ::close(m_nDescriptor);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int Get() const { return m_nDescriptor; }
-    bool IsOpen() const { return m_nDescriptor >= 0; }
-
-private:
-    int m_nDescriptor;
-};
 
 std::string ReadAll(const std::string& strPath, int nDescriptor)
 {
