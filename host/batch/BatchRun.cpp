@@ -193,7 +193,7 @@ bool BatchRun::IsDone(const BatchFile& file,
                       const Before& before,
                       const EarlierResult& earlier) const
 {
-    if (earlier.eStatus >= ExitStatus::NotChecked || !before.state ||
+    if (earlier.eStatus >= ExitStatus::NotChecked || file.bStrangersLink || !before.state ||
         before.state != earlier.entry.state || before.strOptions != earlier.entry.strOptions)
         return false;
     if (m_settings.bCheckOnly)
@@ -310,6 +310,10 @@ std::optional<std::size_t> BatchRun::NextJob()
         const std::size_t nFile = m_vecToDo[m_nNext++];
         const BatchFile& file = m_list.vecFile[nFile];
         m_vecBefore[nFile] = Look(file);
+        if (file.bStrangersLink) {
+            RecordStrangersLink(nFile);
+            continue;
+        }
         if (file.strProblem.empty())
             return nFile;
         Record(nFile,
@@ -323,6 +327,21 @@ std::optional<std::size_t> BatchRun::NextJob()
                0);
     }
     return std::nullopt;
+}
+
+void BatchRun::RecordStrangersLink(std::size_t nFile)
+{
+    Record(nFile,
+           MakeAnswer(
+               NotChecked(
+                   m_list.vecFile[nFile].strPath,
+                   Say({"The file was not checked: it is another user's link in a folder that "
+                        "others may write in.",
+                        "ファイルをチェックしませんでした。ほかのユーザーも書き込めるフォルダー"
+                        "にある、ほかのユーザーのリンクです。"}),
+                   Say({"Put the file itself there.", "リンクではなくファイルを置いてください。"})),
+               m_settings.style),
+           0);
 }
 
 void BatchRun::Settle(const JobResult& result)

@@ -56,6 +56,7 @@ private:
     void WorkOn();
     std::unique_ptr<Work> MakeWorkInChild() const;
     std::optional<std::size_t> NextJob();
+    void RecordStrangersLink(std::size_t nFile);
     void Settle(const JobResult& result);
     FileAnswer AnswerFor(const JobResult& result) const;
     FileAnswer AnswerWithout(const std::string& strFile, const JobResult& result) const;

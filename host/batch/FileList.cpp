@@ -16,6 +16,7 @@
 #include <utility>
 
 #include "SourceFile.h"
+#include "files/FilePlace.h"
 
 namespace fs = std::filesystem;
 
@@ -129,15 +130,17 @@ private:
         if (bText && m_eTexts == TextFiles::LeftAside)
             ++m_list.nTexts;
         else if (bText || EndsWith(strName, CSV_ENDING))
-            Add(folder, strName);
+            Add(folder, strName,
+                S_ISLNK(status.st_mode) && IsStrangersInSharedFolder(nFolder, status));
     }
 
-    void Add(const Folder& folder, const std::string& strName)
+    void Add(const Folder& folder, const std::string& strName, bool bStrangersLink)
     {
         BatchFile file;
         file.strPath = Join(folder.strPath, strName);
         file.strKey = Key(file.strPath);
         file.strRelative = Join(folder.strRelative, strName);
+        file.bStrangersLink = bStrangersLink;
         m_list.vecFile.push_back(std::move(file));
     }
 

@@ -16,6 +16,9 @@ struct BatchFile
     std::string strRelative;  ///< where it stands in the tree that is mirrored
     std::string strDocument;  ///< below the output folder; empty until NameDocuments
     std::string strProblem;   ///< why a folder, for which the entry stands, could not be read
+    /// A stranger's link in a folder that others may write in: it could lead to a file that only
+    /// this user may read, whose values would come out in report and document.
+    bool bStrangersLink = false;
 };
 
 struct FileList
@@ -33,10 +36,10 @@ enum class TextFiles
 };
 
 /// The files below a folder that end in .csv, whatever the case of its letters. Links to files are
-/// followed, links to folders are not, so that no loop is possible. A folder that can't be read
-/// gives an entry with a problem.
-/// \param strOutput  A folder that isn't looked into, unless it is strFolder itself; may be absent.
-/// \param eTexts  Whether files ending in .txt are taken, too.
+/// followed, but for strangers', links to folders are not, so that no loop is possible. A folder
+/// that can't be read gives an entry with a problem. \param strOutput  A folder that isn't looked
+/// into, unless it is strFolder itself; may be absent. \param eTexts  Whether files ending in .txt
+/// are taken, too.
 FileList FilesBelow(const std::string& strFolder, const std::string& strOutput, TextFiles eTexts);
 
 enum class ListForm

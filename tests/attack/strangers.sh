@@ -80,6 +80,22 @@ stranger sh -c 'echo mine >box/.kzekamok-0123456789abcdef/unfinished'
 run batch in -o box "${filer[@]}"
 [ -e box/.kzekamok-0123456789abcdef/unfinished ] || fail "a stranger's unfinished file stays"
 
+# --- links in the inbox to files that only this user may read ---
+
+mkdir -m 777 inbox
+cp a.csv secret.csv
+chmod 600 secret.csv
+stranger ln -s "$work/secret.csv" inbox/theirs.csv
+ln -s "$work/secret.csv" inbox/own.csv
+run batch inbox -o read "${filer[@]}"
+expect_status 3 "a stranger's link in the inbox"
+expect_in out "inbox/theirs.csv: The file was not checked: it is another user's link" \
+    "a stranger's link in the inbox"
+[ ! -e read/theirs.mok ] || fail "a stranger's link in the inbox is not converted"
+expect_in read/report.json '"file":"inbox/own.csv","result":"converted"' "an own link in the inbox"
+run batch inbox -o read "${filer[@]}"
+expect_status 3 "a stranger's link in the inbox, once more"
+
 # --- a folder in which everything is swapped all the time ---
 
 mkdir -m 777 race

@@ -96,6 +96,26 @@ TEST_F(FolderWalkTest, TextFilesAreTakenWhenTheyAreWanted)
     EXPECT_EQ(list.nTexts, 0U);
 }
 
+TEST_F(FolderWalkTest, StrangersLinkIsTakenForWhatItIsWhereOthersMayWrite)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "only root can make another user's link";
+    folder.Write("real.csv", "");
+    fs::create_symlink("real.csv", folder.Path("own.csv"));
+    fs::create_symlink("real.csv", folder.Path("theirs.csv"));
+    ASSERT_EQ(lchown(folder.Path("theirs.csv").c_str(), 65534, 65534), 0);
+    const auto strangers = [this] {
+        std::vector<std::string> vecName;
+        for (const BatchFile& file : Walk().vecFile)
+            if (file.bStrangersLink)
+                vecName.push_back(file.strRelative);
+        return vecName;
+    };
+    EXPECT_THAT(strangers(), IsEmpty()) << "its owner alone writes in the folder";
+    ASSERT_EQ(chmod(folder.Path().c_str(), 01777), 0);
+    EXPECT_THAT(strangers(), ElementsAre("theirs.csv"));
+}
+
 TEST_F(FolderWalkTest, FolderNamedLikeAFileIsLookedInto)
 {
     folder.Write("x.csv/a.csv", "");
