@@ -369,6 +369,14 @@ TEST_F(DefineNodeTest, SearchGoesOnBelowAParentOfAGeneration)
     EXPECT_EQ(NodePeek::Shape(*pRoot), "A.junior(B.junior(A.junior(C)),C)");
 }
 
+TEST_F(DefineNodeTest, ChildOfBothThatBearsItsParentsNameIsNotItsOwnParent)
+{
+    const auto pRoot = CreateNode(R"(<item type="Normal" id="R"/>)");
+    HangAll(*pRoot, {R"(<item type="Normal" id="A" parent="R" generation="junior"/>)"});
+    ASSERT_EQ(Hang(*pRoot, CreateNode(R"(<item type="Normal" id="A" parent="A"/>)")), 1);
+    EXPECT_EQ(NodePeek::Shape(*pRoot), "R(A.junior(A))");
+}
+
 TEST_F(DefineNodeTest, SharedParentIsReachedOnEachOfItsWays)
 {
     const auto pRoot = CreateNode(R"(<item type="Normal" id="R"/>)");
