@@ -1,5 +1,7 @@
 #include "KZCConvertInfo.h"
 
+#include <utility>
+
 #include "Fault.h"
 
 std::unique_ptr<KZCConvertInfo> KZCConvertInfo::m_pInstance;
@@ -23,48 +25,69 @@ KZCEkaCsvFile* KZCConvertInfo::GetCsvFile(long lCsvDistKey)
 
 int KZCConvertInfo::ReloadCsvFile(long lCsvDistKey, const std::string& strPath)
 {
-    const auto pEntry = m_mapTable.find(lCsvDistKey);
-    if (pEntry == m_mapTable.end())
-        return STATUS_OK;
-    pEntry->second.pCsvFile = MakeCsvFile();
-    return pEntry->second.pCsvFile->ReadFile(strPath);
+    return ReadAgain(lCsvDistKey, strPath,
+                     MAKERS_OF<KZCEkaCsvFile, KZCEkaDefinition, KZCEkaITData>);
+}
+
+KZCConvertInfo::~KZCConvertInfo()
+{
+    Terminate();
 }
 
 _ConvertTable KZCConvertInfo::GetConvertTable(long lCsvDistKey)
 {
+    return FindOrMake(lCsvDistKey, MAKERS_OF<KZCEkaCsvFile, KZCEkaDefinition, KZCEkaITData>);
+}
+
+void KZCConvertInfo::ClearInfo(long lCsvDistKey)
+{
+    DeleteTable(m_mapTable.find(lCsvDistKey));
+}
+
+void KZCConvertInfo::Terminate()
+{
+    while (!m_mapTable.empty())
+        DeleteTable(m_mapTable.begin());
+}
+
+_ConvertTable KZCConvertInfo::FindOrMake(long lCsvDistKey, const Makers& makers)
+{
     auto pEntry = m_mapTable.find(lCsvDistKey);
     if (pEntry == m_mapTable.end()) {
         Entry entry;
-        entry.pCsvFile = MakeCsvFile();
-        entry.pDefinition = MakeDefinition();
-        entry.pITData = MakeITData();
+        entry.pCsvFile = makers.pCsvFile();
+        entry.pDefinition = makers.pDefinition();
+        entry.pITData = makers.pITData();
         pEntry = m_mapTable.emplace(lCsvDistKey, std::move(entry)).first;
     }
     const Entry& entry = pEntry->second;
     return {entry.pCsvFile.get(), entry.pDefinition.get(), entry.pITData.get()};
 }
 
-void KZCConvertInfo::ClearInfo(long lCsvDistKey)
+int KZCConvertInfo::ReadAgain(long lCsvDistKey, const std::string& strPath, const Makers& makers)
 {
-    m_mapTable.erase(lCsvDistKey);
+    const auto pEntry = m_mapTable.find(lCsvDistKey);
+    if (pEntry == m_mapTable.end())
+        return STATUS_OK;
+    std::unique_ptr<KZCEkaCsvFile>& pCsvFile = pEntry->second.pCsvFile;
+    // The old reading goes before the new one comes: memory never has to hold a file twice.
+    pCsvFile.reset();
+    try {
+        pCsvFile = makers.pCsvFile();
+    } catch (...) {
+        DeleteTable(pEntry);  // a key without a CSV file would be met by a later conversion
+        throw;
+    }
+    // In the store before it is read: what a reading that breaks off has left is the key's.
+    return pCsvFile->ReadFile(strPath);
 }
 
-void KZCConvertInfo::Terminate()
+void KZCConvertInfo::DeleteTable(TableMap::iterator pEntry)
 {
-    m_mapTable.clear();
-}
-
-std::unique_ptr<KZCEkaCsvFile> KZCConvertInfo::MakeCsvFile() const
-{
-    return std::make_unique<KZCEkaCsvFile>();
-}
-
-std::unique_ptr<KZCEkaDefinition> KZCConvertInfo::MakeDefinition() const
-{
-    return std::make_unique<KZCEkaDefinition>();
-}
-
-std::unique_ptr<KZCEkaITData> KZCConvertInfo::MakeITData() const
-{
-    return std::make_unique<KZCEkaITData>();
+    if (pEntry == m_mapTable.end())
+        return;
+    pEntry->second.pCsvFile.reset();
+    pEntry->second.pDefinition.reset();
+    pEntry->second.pITData.reset();
+    m_mapTable.erase(pEntry);
 }

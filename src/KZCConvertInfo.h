@@ -30,7 +30,8 @@ public:
     /// Replaces the key's CSV by a new reading of the path.
     /// \return What ReadFile returned, STATUS_OK for an unknown key, which is not made.
     virtual int ReloadCsvFile(long lCsvDistKey, const std::string& strPath);
-    virtual ~KZCConvertInfo() = default;
+    virtual ~KZCConvertInfo();
+    /// Makes the key if it is missing.
     virtual _ConvertTable GetConvertTable(long lCsvDistKey);
 
     KZCEkaDefinition* GetDefinition(long lCsvDistKey)
@@ -40,30 +41,46 @@ public:
     KZCEkaITData* GetITData(long lCsvDistKey) { return GetConvertTable(lCsvDistKey).pITData; }
     /// Drops one key; nothing happens if it is absent.
     void ClearInfo(long lCsvDistKey);
-    /// Drops all keys.
+    /// Drops all keys, from the lowest.
     void Terminate();
 
     KZCConvertInfo(const KZCConvertInfo&) = delete;
     KZCConvertInfo& operator=(const KZCConvertInfo&) = delete;
 
 protected:
-    KZCConvertInfo() = default;
-
-    /// The members end in reverse: the CSV file first, the IT section last.
-    struct Entry
+    /// How a family makes the objects of a new key, in the order of making.
+    struct Makers
     {
-        std::unique_ptr<KZCEkaITData> pITData;
-        std::unique_ptr<KZCEkaDefinition> pDefinition;
-        std::unique_ptr<KZCEkaCsvFile> pCsvFile;
+        std::unique_ptr<KZCEkaCsvFile> (*pCsvFile)();
+        std::unique_ptr<KZCEkaDefinition> (*pDefinition)();
+        std::unique_ptr<KZCEkaITData> (*pITData)();
     };
 
-    /// The objects of this store's family.
-    virtual std::unique_ptr<KZCEkaCsvFile> MakeCsvFile() const;
-    virtual std::unique_ptr<KZCEkaDefinition> MakeDefinition() const;
-    virtual std::unique_ptr<KZCEkaITData> MakeITData() const;
+    template <class CsvFile, class Definition, class ITData>
+    static constexpr Makers MAKERS_OF = {
+        [] { return std::unique_ptr<KZCEkaCsvFile>(std::make_unique<CsvFile>()); },
+        [] { return std::unique_ptr<KZCEkaDefinition>(std::make_unique<Definition>()); },
+        [] { return std::unique_ptr<KZCEkaITData>(std::make_unique<ITData>()); }};
+
+    KZCConvertInfo() = default;
+
+    /// The operations of the same meaning, with the classes of a family.
+    _ConvertTable FindOrMake(long lCsvDistKey, const Makers& makers);
+    int ReadAgain(long lCsvDistKey, const std::string& strPath, const Makers& makers);
 
     static std::unique_ptr<KZCConvertInfo> m_pInstance;
 
 private:
-    std::map<long, Entry> m_mapTable;
+    struct Entry
+    {
+        std::unique_ptr<KZCEkaCsvFile> pCsvFile;
+        std::unique_ptr<KZCEkaDefinition> pDefinition;
+        std::unique_ptr<KZCEkaITData> pITData;
+    };
+    using TableMap = std::map<long, Entry>;
+
+    /// Drops one entry: the CSV file first, the IT section last. Nothing happens at the end.
+    void DeleteTable(TableMap::iterator pEntry);
+
+    TableMap m_mapTable;
 };

@@ -11,17 +11,16 @@ KZCConvertInfo* KZCConvertInfoCrossBorder::instance_crossborder()
     return m_pInstance.get();
 }
 
-std::unique_ptr<KZCEkaCsvFile> KZCConvertInfoCrossBorder::MakeCsvFile() const
+int KZCConvertInfoCrossBorder::ReloadCsvFile(long lCsvDistKey, const std::string& strPath)
 {
-    return std::make_unique<KZCEkaCsvFileCrossBorder>();
+    return ReadAgain(
+        lCsvDistKey, strPath,
+        MAKERS_OF<KZCEkaCsvFileCrossBorder, KZCEkaDefinitionCrossBorder, KZCEkaITDataCrossBorder>);
 }
 
-std::unique_ptr<KZCEkaDefinition> KZCConvertInfoCrossBorder::MakeDefinition() const
+_ConvertTable KZCConvertInfoCrossBorder::GetConvertTable(long lCsvDistKey)
 {
-    return std::make_unique<KZCEkaDefinitionCrossBorder>();
-}
-
-std::unique_ptr<KZCEkaITData> KZCConvertInfoCrossBorder::MakeITData() const
-{
-    return std::make_unique<KZCEkaITDataCrossBorder>();
+    return FindOrMake(
+        lCsvDistKey,
+        MAKERS_OF<KZCEkaCsvFileCrossBorder, KZCEkaDefinitionCrossBorder, KZCEkaITDataCrossBorder>);
 }

@@ -1,6 +1,8 @@
 // The conversion store of the CrossBorder family.
 #pragma once
 
+#include <string>
+
 #include "KZCConvertInfoFinance.h"
 
 class KZCConvertInfoCrossBorder : public KZCConvertInfoFinance
@@ -9,10 +11,9 @@ public:
     /// The instance of whatever class; a CrossBorder store if there is none.
     static KZCConvertInfo* instance_crossborder();
 
+    int ReloadCsvFile(long lCsvDistKey, const std::string& strPath) override;
+    _ConvertTable GetConvertTable(long lCsvDistKey) override;
+
 private:
     KZCConvertInfoCrossBorder() = default;
-
-    std::unique_ptr<KZCEkaCsvFile> MakeCsvFile() const override;
-    std::unique_ptr<KZCEkaDefinition> MakeDefinition() const override;
-    std::unique_ptr<KZCEkaITData> MakeITData() const override;
 };

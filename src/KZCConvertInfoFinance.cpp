@@ -11,17 +11,14 @@ KZCConvertInfo* KZCConvertInfoFinance::instance_finance()
     return m_pInstance.get();
 }
 
-std::unique_ptr<KZCEkaCsvFile> KZCConvertInfoFinance::MakeCsvFile() const
+int KZCConvertInfoFinance::ReloadCsvFile(long lCsvDistKey, const std::string& strPath)
 {
-    return std::make_unique<KZCEkaCsvFileFinance>();
+    return ReadAgain(lCsvDistKey, strPath,
+                     MAKERS_OF<KZCEkaCsvFileFinance, KZCEkaDefinitionFinance, KZCEkaITDataFinance>);
 }
 
-std::unique_ptr<KZCEkaDefinition> KZCConvertInfoFinance::MakeDefinition() const
+_ConvertTable KZCConvertInfoFinance::GetConvertTable(long lCsvDistKey)
 {
-    return std::make_unique<KZCEkaDefinitionFinance>();
-}
-
-std::unique_ptr<KZCEkaITData> KZCConvertInfoFinance::MakeITData() const
-{
-    return std::make_unique<KZCEkaITDataFinance>();
+    return FindOrMake(
+        lCsvDistKey, MAKERS_OF<KZCEkaCsvFileFinance, KZCEkaDefinitionFinance, KZCEkaITDataFinance>);
 }

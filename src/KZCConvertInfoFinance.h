@@ -1,6 +1,8 @@
 // The conversion store of the Finance family.
 #pragma once
 
+#include <string>
+
 #include "KZCConvertInfo.h"
 
 class KZCConvertInfoFinance : public KZCConvertInfo
@@ -9,10 +11,9 @@ public:
     /// The instance of whatever class; a Finance store if there is none.
     static KZCConvertInfo* instance_finance();
 
+    int ReloadCsvFile(long lCsvDistKey, const std::string& strPath) override;
+    _ConvertTable GetConvertTable(long lCsvDistKey) override;
+
 protected:
     KZCConvertInfoFinance() = default;
-
-    std::unique_ptr<KZCEkaCsvFile> MakeCsvFile() const override;
-    std::unique_ptr<KZCEkaDefinition> MakeDefinition() const override;
-    std::unique_ptr<KZCEkaITData> MakeITData() const override;
 };

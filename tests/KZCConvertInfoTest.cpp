@@ -17,6 +17,11 @@ namespace {
 
 /// What has happened to the objects of a store, in order.
 std::vector<std::string> g_vecEvent;
+/// The CSV files that have gone, by the order in which they were made, from 1.
+std::vector<int> g_vecGone;
+int g_nCsvFilesMade = 0;
+/// The next CSV file can't be made.
+bool g_bNoCsvFile = false;
 
 /// Notes when one of a key's objects goes.
 template <class Base>
@@ -30,6 +35,19 @@ private:
     const char* m_szName;
 };
 
+class NotedCsvFile final : public KZCEkaCsvFile
+{
+public:
+    ~NotedCsvFile() override
+    {
+        g_vecEvent.push_back("-csv");
+        g_vecGone.push_back(m_nNumber);
+    }
+
+private:
+    int m_nNumber = ++g_nCsvFilesMade;
+};
+
 /// A store that notes what it makes. Making one makes it the instance.
 class NotingStore final : public KZCConvertInfo
 {
@@ -37,28 +55,49 @@ public:
     static void Install()
     {
         g_vecEvent.clear();
+        g_vecGone.clear();
+        g_nCsvFilesMade = 0;
+        g_bNoCsvFile = false;
         m_pInstance = std::make_unique<NotingStore>();
     }
 
-protected:
-    std::unique_ptr<KZCEkaCsvFile> MakeCsvFile() const override
+    int ReloadCsvFile(long lCsvDistKey, const std::string& strPath) override
     {
-        return Make<KZCEkaCsvFile>("csv");
+        return ReadAgain(lCsvDistKey, strPath, MAKERS);
     }
-    std::unique_ptr<KZCEkaDefinition> MakeDefinition() const override
+    _ConvertTable GetConvertTable(long lCsvDistKey) override
     {
-        return Make<KZCEkaDefinition>("definition");
+        return FindOrMake(lCsvDistKey, MAKERS);
     }
-    std::unique_ptr<KZCEkaITData> MakeITData() const override { return Make<KZCEkaITData>("it"); }
 
 private:
-    template <class Base>
-    static std::unique_ptr<Base> Make(const char* szName)
+    static std::unique_ptr<KZCEkaCsvFile> MakeCsvFile()
     {
-        g_vecEvent.push_back(std::string("+") + szName);
-        return std::make_unique<Noted<Base>>(szName);
+        if (g_bNoCsvFile)
+            throw FAULT;
+        g_vecEvent.emplace_back("+csv");
+        return std::make_unique<NotedCsvFile>();
     }
+    static std::unique_ptr<KZCEkaDefinition> MakeDefinition()
+    {
+        g_vecEvent.emplace_back("+definition");
+        return std::make_unique<Noted<KZCEkaDefinition>>("definition");
+    }
+    static std::unique_ptr<KZCEkaITData> MakeITData()
+    {
+        g_vecEvent.emplace_back("+it");
+        return std::make_unique<Noted<KZCEkaITData>>("it");
+    }
+
+    static constexpr Makers MAKERS = {&MakeCsvFile, &MakeDefinition, &MakeITData};
 };
+
+/// Makes keys of which neither the order of making nor that of their digits is the numeric one.
+void MakeUnorderedKeys()
+{
+    for (const long lKey : {5L, -3L, 10L, 2L})
+        static_cast<void>(KZCConvertInfo::instance()->GetConvertTable(lKey));
+}
 
 class ConvertInfoTest : public ResetState
 {
@@ -220,6 +259,32 @@ TEST_F(ConvertInfoTest, DestroyDropsTheObjectsOfAllKeys)
                 testing::ElementsAre("-csv", "-definition", "-it", "-csv", "-definition", "-it"));
 }
 
+TEST_F(ConvertInfoTest, TerminateDropsTheKeysInNumericOrder)
+{
+    NotingStore::Install();
+    MakeUnorderedKeys();
+    KZCConvertInfo::instance()->Terminate();
+    EXPECT_THAT(g_vecGone, testing::ElementsAre(2, 4, 1, 3));
+}
+
+TEST_F(ConvertInfoTest, DestroyDropsTheKeysInNumericOrder)
+{
+    NotingStore::Install();
+    MakeUnorderedKeys();
+    KZCConvertInfo::destroy();
+    EXPECT_THAT(g_vecGone, testing::ElementsAre(2, 4, 1, 3));
+}
+
+TEST_F(ConvertInfoTest, TerminatedStoreTakesKeysAgain)
+{
+    NotingStore::Install();
+    MakeUnorderedKeys();
+    KZCConvertInfo::instance()->Terminate();
+    g_vecEvent.clear();
+    static_cast<void>(KZCConvertInfo::instance()->GetConvertTable(5));
+    EXPECT_THAT(g_vecEvent, testing::ElementsAre("+csv", "+definition", "+it"));
+}
+
 TEST_F(ConvertInfoTest, InstanceBehindDestroyKnowsNoKey)
 {
     EXPECT_EQ(KZCConvertInfo::instance()->GetCsvFile(1)->ReadFile(WriteCsv("003,1,a")), STATUS_OK);
@@ -236,17 +301,33 @@ TEST_F(ConvertInfoTest, ReloadOfAnUnknownKeyMakesNothing)
     EXPECT_THAT(g_vecEvent, testing::IsEmpty());
 }
 
-TEST_F(ConvertInfoTest, ReloadReplacesTheCsvAlone)
+TEST_F(ConvertInfoTest, ReloadReplacesTheCsvAloneAndDropsTheOldOneFirst)
 {
     NotingStore::Install();
     const _ConvertTable before = KZCConvertInfo::instance()->GetConvertTable(1);
     g_vecEvent.clear();
     EXPECT_EQ(KZCConvertInfo::instance()->ReloadCsvFile(1, WriteCsv("003,1,a")), STATUS_OK);
-    EXPECT_THAT(g_vecEvent, testing::UnorderedElementsAre("-csv", "+csv"));
+    EXPECT_THAT(g_vecEvent, testing::ElementsAre("-csv", "+csv"));
     const _ConvertTable after = KZCConvertInfo::instance()->GetConvertTable(1);
     EXPECT_EQ(after.pDefinition, before.pDefinition);
     EXPECT_EQ(after.pITData, before.pITData);
     EXPECT_STREQ(after.pCsvFile->GetItem(0, 2), "a");
+}
+
+TEST_F(ConvertInfoTest, ReloadWhoseCsvCannotBeMadeRaisesAndDropsItsKeyAlone)
+{
+    NotingStore::Install();
+    KZCConvertInfo& store = *KZCConvertInfo::instance();
+    static_cast<void>(store.GetConvertTable(1));
+    const KZCEkaCsvFile* pOther = store.GetCsvFile(2);
+    g_vecEvent.clear();
+    g_bNoCsvFile = true;
+    EXPECT_EQ(Raised([&] { static_cast<void>(store.ReloadCsvFile(1, WriteCsv("003,1,a"))); }),
+              FAULT);
+    EXPECT_THAT(g_vecEvent, testing::ElementsAre("-csv", "-definition", "-it"));
+    EXPECT_EQ(store.GetCsvFile(2), pOther);
+    g_bNoCsvFile = false;
+    EXPECT_EQ(store.GetCsvFile(1)->GetRecordCount(), 0);
 }
 
 TEST_F(ConvertInfoTest, ReloadTakesTheEncodingOfItsOwnTime)
