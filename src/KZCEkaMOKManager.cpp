@@ -1,17 +1,17 @@
 #include "KZCEkaMOKManager.h"
 
+#include <string_view>
 #include <typeinfo>
 
-#include "CText.h"
 #include "DocumentParts.h"
 #include "FamilyTraits.h"
-#include "Fault.h"
 #include "KZCConvertInfo.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCValidResult.h"
 #include "LostText.h"
+#include "ManagerFamily.h"
 
 namespace {
 
@@ -24,178 +24,19 @@ constexpr long MOK_PATH_ARGUMENT = 2;
 constexpr long CHECK_KEY_ARGUMENT = 2;
 constexpr long CONVERSION_KEY_ARGUMENT = 1;
 
-/// Runs the argument checks of a type on a value. \return what the checks returned.
-int CheckArgument(KZCEkaValidator& validator,
-                  KZCArgValid_t eType,
-                  const std::string& strValue,
-                  long lArgument)
+// ---- the base family ---------------------------------------------------------------------------
+
+const char* HostProcedure(const KZCEkaITData& it)
 {
-    static_cast<void>(validator.Initialize(eType, true));
-    return validator.Validate(strValue.c_str(), ARGUMENT_RECORD, lArgument);
+    return it.GetITData(IT_PROCEDURE_CD);
 }
 
-std::string TrimPath(const char* szPath)
+const char* DocumentName(const KZCEkaITData& /*it*/)
 {
-    return szPath != nullptr && *szPath != '\0' ? KZCEkaCommon::StringTrim(szPath) : std::string();
+    return DOCUMENT_NAME;
 }
 
-/// Records an error that ends the making of the document. \return STATUS_NG.
-int RefuseDocument(KZCEkaMessage_t eMessage,
-                   long lRecord,
-                   long lColumn,
-                   const std::string& strFunction,
-                   const char* szMessage,
-                   const char* szValue)
-{
-    KZCValidResult::instance()->SetResult(eMessage, lRecord, lColumn, SINGLE_COLUMN);
-    KZCDebugDump::Log(strFunction.c_str(), szMessage);
-    KZCDebugDump::OutputValid(eMessage, lRecord, lColumn, szValue, true);
-    return STATUS_NG;
-}
-
-}  // namespace
-
-KZCEkaMOKManager::~KZCEkaMOKManager()
-{
-    if (m_pXDom)
-        m_pXDom->Terminate();
-}
-
-int KZCEkaMOKManager::InitForCheck(bool bPublic, const char* szCsvPathName, long lCsvDistKey)
-{
-    KZCValidResult::instance()->ClearResult();
-    return RunStep("InitForCheck", [&] {
-        KZCEkaValidator validator;
-        KZCEkaTaxOffices::instance()->Initialize();
-        const std::string strPath = TrimPath(szCsvPathName);
-        CheckArgument(validator, ARG_CSV_PATH, strPath, CSV_PATH_ARGUMENT);
-        if (!bPublic)
-            CheckArgument(validator, Traits().eKeyCheck, std::to_string(lCsvDistKey),
-                          CHECK_KEY_ARGUMENT);
-        if (!KZCValidResult::instance()->IsEmpty())
-            return STATUS_NG;
-        m_lCsvDistKey = lCsvDistKey;
-        m_strCsvPathName = strPath;
-        return STATUS_OK;
-    });
-}
-
-int KZCEkaMOKManager::InitForMok(bool bPublic,
-                                 const char* szCsvPathName,
-                                 const char* szMokPathName,
-                                 long lCsvDistKey)
-{
-    KZCValidResult::instance()->ClearResult();
-    return RunStep("InitForMok", [&] {
-        KZCEkaValidator validator;
-        KZCEkaTaxOffices::instance()->Initialize();
-        Store()->GetITData(lCsvDistKey)->Initialize(bPublic);
-        const std::string strCsvPath = TrimPath(szCsvPathName);
-        const std::string strMokPath = TrimPath(szMokPathName);
-        if (bPublic) {
-            CheckArgument(validator, ARG_CSV_PATH, strCsvPath, CSV_PATH_ARGUMENT);
-            CheckArgument(validator, ARG_MOK_PATH, strMokPath, MOK_PATH_ARGUMENT);
-        } else {
-            CheckKeptFile(validator, lCsvDistKey);
-        }
-        m_lCsvDistKey = lCsvDistKey;
-        m_strCsvPathName = strCsvPath;
-        m_strMokPathName = strMokPath;
-        return STATUS_OK;
-    });
-}
-
-/// The key is within its limits and holds records.
-void KZCEkaMOKManager::CheckKeptFile(KZCEkaValidator& validator, long lCsvDistKey) const
-{
-    const int nStatus = CheckArgument(validator, Traits().eKeyCheck, std::to_string(lCsvDistKey),
-                                      CONVERSION_KEY_ARGUMENT);
-    if (nStatus == STATUS_NG || Store()->GetCsvFile(lCsvDistKey)->GetRecordCount() != 0)
-        return;
-    KZCValidResult::instance()->SetResult(HE70013E, ARGUMENT_RECORD, CONVERSION_KEY_ARGUMENT,
-                                          SINGLE_COLUMN);
-    KZCDebugDump::Log(LogName("InitForMok").c_str(),
-                      "指定された識別キーのCSVデータが存在しません。（HE70013E）");
-    KZCDebugDump::OutputValid(HE70013E, ARGUMENT_RECORD, CONVERSION_KEY_ARGUMENT, "", true);
-}
-
-int KZCEkaMOKManager::LoadCsvWithDefinition(bool bIsCheck)
-{
-    return RunStep("LoadCsvWithDefinition", [&] {
-        if (const int nStatus = ReadCsvFile(); nStatus != STATUS_OK)
-            return nStatus;
-        LoadDefinition(bIsCheck);
-        return STATUS_OK;
-    });
-}
-
-KZCEkaITData& KZCEkaMOKManager::ITData() const
-{
-    return *Store()->GetITData(m_lCsvDistKey);
-}
-
-const KZCEkaCsvFile& KZCEkaMOKManager::CsvFile() const
-{
-    return *Store()->GetCsvFile(m_lCsvDistKey);
-}
-
-int KZCEkaMOKManager::ReadCsvFile() const
-{
-    return Store()->GetCsvFile(m_lCsvDistKey)->ReadFile(m_strCsvPathName);
-}
-
-void KZCEkaMOKManager::LoadDefinition(bool bIsCheck) const
-{
-    const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
-    if (table.pDefinition->CreateDefinition(table.pCsvFile->GetTypeId(), bIsCheck) != STATUS_OK)
-        throw FAULT;
-}
-
-int KZCEkaMOKManager::ValidateCsv()
-{
-    return RunStep("ValidateCsv", [this] {
-        const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
-        return table.pDefinition->ValidateCsv(table.pCsvFile) == 0 ? STATUS_OK : STATUS_NG;
-    });
-}
-
-int KZCEkaMOKManager::MakeMok()
-{
-    const std::string strFunction = MakeMokName();
-    try {
-        LostText::Forget();
-        const _ConvertTable table = Store()->GetConvertTable(m_lCsvDistKey);
-        const std::string strProcedure = HostProcedure(*table.pITData);
-        if (strProcedure != table.pDefinition->GetProcId())
-            return RefuseDocument(HE70010E, ARGUMENT_RECORD,
-                                  (table.pITData->IsPublic() ? 1 : 0) | Traits().lProcedureArgument,
-                                  MismatchName(), "引数の手続きIDが不正です。（HE70010E）",
-                                  strProcedure.c_str());
-        table.pCsvFile->DeleteEmptyRecord();
-        m_pXDom = std::make_unique<KZCEkaXDOM>();
-        if (!m_pXDom->Initialize())
-            throw FAULT;
-        const std::string strText = MakeDocumentText(table);
-        LostText::Check();
-        if (!m_pXDom->Parse(strText.c_str(), DocumentName(*table.pITData).c_str(), "UTF-8"))
-            RaiseFault(strFunction.c_str(), "MOKファイルの読み込みに失敗。");
-        const long lSize = m_pXDom->GetSerialisedSize();
-        if (lSize < 0)
-            RaiseFault(strFunction.c_str(), "MOKファイルの保存に失敗。");
-        if (lSize <= MAX_DOCUMENT_SIZE)
-            return STATUS_OK;
-        KZCValidResult::instance()->SetResult(HE70023E, 0, 0, SINGLE_COLUMN);
-        KZCDebugDump::Log(strFunction.c_str(), "MOKファイルが10MBを超えています。（HE70023E）");
-        KZCDebugDump::OutputValid(HE70023E, 0, 0, lSize);
-        return STATUS_NG;
-    } catch (...) {
-        return RefuseDocument(HE70016E, 0, 0, strFunction,
-                              "想定外の事象によりMOKファイルの作成に失敗しました。（HE70016E）",
-                              "");
-    }
-}
-
-std::string KZCEkaMOKManager::MakeDocumentText(const _ConvertTable& table) const
+std::string MakeDocumentText(const _ConvertTable& table)
 {
     const KZCEkaDefinition& definition = *table.pDefinition;
     std::string strText =
@@ -215,16 +56,125 @@ std::string KZCEkaMOKManager::MakeDocumentText(const _ConvertTable& table) const
     return strText;
 }
 
+constexpr ManagerFamily FAMILY = {
+    .traits = BASE_FAMILY,
+    .pStore = &KZCConvertInfo::instance,
+    .szInitForCheck = "KZCEkaMOKManager::InitForCheck",
+    .szInitForMok = "KZCEkaMOKManager::InitForMok",
+    .szValidateCsv = "KZCEkaMOKManager::ValidateCsv",
+    .szMakeMok = "KZCEkaMOKManager::MakeMok",
+    .szMismatch = "KZCEkaMOKManager::MakeMok",
+    .pHostProcedure = &HostProcedure,
+    .pDocumentName = &DocumentName,
+    .pMakeText = &MakeDocumentText,
+};
+
+// ---- the steps ---------------------------------------------------------------------------------
+
+/// Runs the argument checks of a type on a value. \return what the checks returned.
+int CheckArgument(KZCEkaValidator& validator,
+                  KZCArgValid_t eType,
+                  const std::string& strValue,
+                  long lArgument)
+{
+    static_cast<void>(validator.Initialize(eType, true));
+    return validator.Validate(strValue.c_str(), ARGUMENT_RECORD, lArgument);
+}
+
+/// The key is within its limits and holds records.
+void CheckKeptFile(const ManagerFamily& family, KZCEkaValidator& validator, long lCsvDistKey)
+{
+    const int nStatus = CheckArgument(validator, family.traits.eKeyCheck,
+                                      std::to_string(lCsvDistKey), CONVERSION_KEY_ARGUMENT);
+    if (nStatus == STATUS_NG || family.pStore()->GetCsvFile(lCsvDistKey)->GetRecordCount() != 0)
+        return;
+    KZCValidResult::instance()->SetResult(HE70013E, ARGUMENT_RECORD, CONVERSION_KEY_ARGUMENT,
+                                          SINGLE_COLUMN);
+    KZCDebugDump::Log(family.szInitForMok,
+                      "指定された識別キーのCSVデータが存在しません。（HE70013E）");
+    KZCDebugDump::OutputValid(HE70013E, ARGUMENT_RECORD, CONVERSION_KEY_ARGUMENT, "", true);
+}
+
+/// Records an error that ends the making of the document. \return STATUS_NG.
+int RefuseDocument(KZCEkaMessage_t eMessage,
+                   long lRecord,
+                   long lColumn,
+                   const char* szFunction,
+                   const char* szMessage,
+                   const char* szValue)
+{
+    KZCValidResult::instance()->SetResult(eMessage, lRecord, lColumn, SINGLE_COLUMN);
+    KZCDebugDump::Log(szFunction, szMessage);
+    KZCDebugDump::OutputValid(eMessage, lRecord, lColumn, szValue, true);
+    return STATUS_NG;
+}
+
+}  // namespace
+
+KZCEkaMOKManager::~KZCEkaMOKManager()
+{
+    if (m_pXDom)
+        m_pXDom->Terminate();
+}
+
+int KZCEkaMOKManager::InitForCheck(bool bPublic, const char* szCsvPathName, long lCsvDistKey)
+{
+    return RunInitForCheck(FAMILY, bPublic, szCsvPathName, lCsvDistKey);
+}
+
+int KZCEkaMOKManager::InitForMok(bool bPublic,
+                                 const char* szCsvPathName,
+                                 const char* szMokPathName,
+                                 long lCsvDistKey)
+{
+    return RunInitForMok(FAMILY, bPublic, szCsvPathName, szMokPathName, lCsvDistKey);
+}
+
+int KZCEkaMOKManager::LoadCsvWithDefinition(bool bIsCheck)
+{
+    return RunStep("KZCEkaMOKManager::LoadCsvWithDefinition", [&] {
+        KZCConvertInfo& store = *KZCConvertInfo::instance();
+        const int nStatus = ReadCsvFile(store);
+        if (nStatus == STATUS_OK)
+            LoadDefinition(store, bIsCheck);
+        return nStatus;
+    });
+}
+
+int KZCEkaMOKManager::ValidateCsv()
+{
+    return RunValidateCsv(FAMILY);
+}
+
+int KZCEkaMOKManager::MakeMok()
+{
+    return RunMakeMok(FAMILY);
+}
+
+void KZCEkaMOKManager::TerminateDifferentData()
+{
+    const KZCConvertInfo& store = *KZCConvertInfo::instance();
+    if (typeid(store) != typeid(KZCConvertInfo))
+        TerminateAll();
+}
+
+int KZCEkaMOKManager::SetITData(KZCEkaITData_t eId, const char* szValue)
+{
+    return StoreITValue("KZCEkaMOKManager::SetITData", szValue, [&](const char* szTrimmed) {
+        return Table(*KZCConvertInfo::instance()).pITData->SetITData(eId, szTrimmed);
+    });
+}
+
 int KZCEkaMOKManager::SaveMok()
 {
     if (m_pXDom && m_pXDom->Save(m_strMokPathName.c_str()) == STATUS_OK)
         return STATUS_OK;
-    return RecordFatalError("SaveMok");
+    return RecordFatalError("KZCEkaMOKManager::SaveMok");
 }
 
 int KZCEkaMOKManager::GetMok(std::string& strOut)
 {
-    return RunStep("GetMok", [&] {
+    return RunStep("KZCEkaMOKManager::GetMok", [&] {
         std::string strText;
         if (!m_pXDom || m_pXDom->SaveXml(strText) != STATUS_OK)
             throw FAULT;
@@ -233,35 +183,14 @@ int KZCEkaMOKManager::GetMok(std::string& strOut)
     });
 }
 
-int KZCEkaMOKManager::SetITData(KZCEkaITData_t eId, const char* szValue)
-{
-    return StoreITValue("SetITData", szValue,
-                        [&](const char* szTrimmed) { return ITData().SetITData(eId, szTrimmed); });
-}
-
-int KZCEkaMOKManager::StoreITValue(const char* szOperation,
-                                   const char* szValue,
-                                   const std::function<int(const char*)>& store) const
-{
-    try {
-        LostText::Forget();
-        const std::string strValue =
-            szValue != nullptr ? KZCEkaCommon::StringTrim(szValue) : std::string();
-        LostText::Check();
-        return store(strValue.c_str());
-    } catch (...) {
-        RaiseFault(LogName(szOperation).c_str(), nullptr);
-    }
-}
-
 std::string KZCEkaMOKManager::GetProcID()
 {
-    return Store()->GetDefinition(m_lCsvDistKey)->GetProcId();
+    return Table(*KZCConvertInfo::instance()).pDefinition->GetProcId();
 }
 
 std::string KZCEkaMOKManager::GetRecodeCount()
 {
-    return std::to_string(CsvFile().GetNonCRLFRecordCount());
+    return std::to_string(Table(*KZCConvertInfo::instance()).pCsvFile->GetNonCRLFRecordCount());
 }
 
 bool KZCEkaMOKManager::HasErrorMsg()
@@ -269,7 +198,7 @@ bool KZCEkaMOKManager::HasErrorMsg()
     try {
         return !KZCValidResult::instance()->IsEmpty();
     } catch (...) {
-        RecordFatalError("HasErrorMsg");
+        RecordFatalError("KZCEkaMOKManager::HasErrorMsg");
         return true;
     }
 }
@@ -299,69 +228,124 @@ void KZCEkaMOKManager::ReloadCsvFile(long lCsvDistKey, const char* szPath)
         KZCConvertInfo::instance()->ReloadCsvFile(lCsvDistKey, KZCEkaCommon::StringTrim(szPath));
 }
 
-void KZCEkaMOKManager::TerminateDifferentData()
+int KZCEkaMOKManager::RunInitForCheck(const ManagerFamily& family,
+                                      bool bPublic,
+                                      const char* szCsvPathName,
+                                      long lCsvDistKey)
 {
-    const KZCConvertInfo& store = *KZCConvertInfo::instance();
-    if (typeid(store) != typeid(KZCConvertInfo))
-        TerminateAll();
+    KZCValidResult::instance()->ClearResult();
+    return RunStep(family.szInitForCheck, [&] {
+        KZCEkaValidator validator;
+        KZCEkaTaxOffices::instance()->Initialize();
+        std::string strPath = TrimOrEmpty(szCsvPathName);
+        CheckArgument(validator, ARG_CSV_PATH, strPath, CSV_PATH_ARGUMENT);
+        if (!bPublic)
+            CheckArgument(validator, family.traits.eKeyCheck, std::to_string(lCsvDistKey),
+                          CHECK_KEY_ARGUMENT);
+        if (!KZCValidResult::instance()->IsEmpty())
+            return STATUS_NG;
+        m_lCsvDistKey = lCsvDistKey;
+        m_strCsvPathName = std::move(strPath);
+        return STATUS_OK;
+    });
 }
 
-const FamilyTraits& KZCEkaMOKManager::Traits() const
+int KZCEkaMOKManager::RunInitForMok(const ManagerFamily& family,
+                                    bool bPublic,
+                                    const char* szCsvPathName,
+                                    const char* szMokPathName,
+                                    long lCsvDistKey)
 {
-    return BASE_FAMILY;
+    KZCValidResult::instance()->ClearResult();
+    return RunStep(family.szInitForMok, [&] {
+        KZCEkaValidator validator;
+        KZCEkaTaxOffices::instance()->Initialize();
+        family.pStore()->GetITData(lCsvDistKey)->Initialize(bPublic);
+        std::string strCsvPath = TrimOrEmpty(szCsvPathName);
+        std::string strMokPath = TrimOrEmpty(szMokPathName);
+        if (bPublic) {
+            CheckArgument(validator, ARG_CSV_PATH, strCsvPath, CSV_PATH_ARGUMENT);
+            CheckArgument(validator, ARG_MOK_PATH, strMokPath, MOK_PATH_ARGUMENT);
+        } else {
+            CheckKeptFile(family, validator, lCsvDistKey);
+        }
+        m_lCsvDistKey = lCsvDistKey;
+        m_strCsvPathName = std::move(strCsvPath);
+        m_strMokPathName = std::move(strMokPath);
+        return STATUS_OK;
+    });
 }
 
-const char* KZCEkaMOKManager::ClassName() const
+int KZCEkaMOKManager::RunValidateCsv(const ManagerFamily& family) const
 {
-    return "KZCEkaMOKManager";
+    return RunStep(family.szValidateCsv, [&] {
+        const _ConvertTable table = Table(*family.pStore());
+        return table.pDefinition->ValidateCsv(table.pCsvFile) == 0 ? STATUS_OK : STATUS_NG;
+    });
 }
 
-std::string KZCEkaMOKManager::MismatchName() const
-{
-    return MakeMokName();
-}
-
-std::string KZCEkaMOKManager::MakeMokName() const
-{
-    return LogName("MakeMok");
-}
-
-KZCConvertInfo* KZCEkaMOKManager::Store() const
-{
-    return KZCConvertInfo::instance();
-}
-
-std::string KZCEkaMOKManager::HostProcedure(const KZCEkaITData& it) const
-{
-    return it.GetITData(IT_PROCEDURE_CD);
-}
-
-std::string KZCEkaMOKManager::DocumentName(const KZCEkaITData& /*it*/) const
-{
-    return DOCUMENT_NAME;
-}
-
-int KZCEkaMOKManager::RunStep(const char* szOperation, const std::function<int()>& step) const
+int KZCEkaMOKManager::RunMakeMok(const ManagerFamily& family)
 {
     try {
         LostText::Forget();
-        const int nStatus = step();
+        const _ConvertTable table = Table(*family.pStore());
+        const char* szProcedure = family.pHostProcedure(*table.pITData);
+        if (std::string_view(szProcedure) != table.pDefinition->GetProcId()) {
+            const long lPath = table.pITData->IsPublic() ? 1 : 0;
+            return RefuseDocument(HE70010E, ARGUMENT_RECORD,
+                                  lPath | family.traits.lProcedureArgument, family.szMismatch,
+                                  "引数の手続きIDが不正です。（HE70010E）", szProcedure);
+        }
+        table.pCsvFile->DeleteEmptyRecord();
+        m_pXDom = std::make_unique<KZCEkaXDOM>();
+        if (!m_pXDom->Initialize())
+            throw FAULT;
+        const std::string strText = family.pMakeText(table);
         LostText::Check();
-        return nStatus;
+        if (!m_pXDom->Parse(strText.c_str(), family.pDocumentName(*table.pITData), "UTF-8"))
+            RaiseFault(family.szMakeMok, "MOKファイルの読み込みに失敗。");
+        const long lSize = m_pXDom->GetSerialisedSize();
+        if (lSize < 0)
+            RaiseFault(family.szMakeMok, "MOKファイルの保存に失敗。");
+        if (lSize <= MAX_DOCUMENT_SIZE)
+            return STATUS_OK;
+        KZCValidResult::instance()->SetResult(HE70023E, 0, 0, SINGLE_COLUMN);
+        KZCDebugDump::Log(family.szMakeMok, "MOKファイルが10MBを超えています。（HE70023E）");
+        KZCDebugDump::OutputValid(HE70023E, 0, 0, lSize);
+        return STATUS_NG;
     } catch (...) {
-        return RecordFatalError(szOperation);
+        return RefuseDocument(HE70016E, 0, 0, family.szMakeMok,
+                              "想定外の事象によりMOKファイルの作成に失敗しました。（HE70016E）",
+                              "");
     }
 }
 
-std::string KZCEkaMOKManager::LogName(const char* szOperation) const
+_ConvertTable KZCEkaMOKManager::Table(KZCConvertInfo& store) const
 {
-    return std::string(ClassName()) + "::" + szOperation;
+    return store.GetConvertTable(m_lCsvDistKey);
+}
+
+int KZCEkaMOKManager::ReadCsvFile(KZCConvertInfo& store) const
+{
+    return store.GetCsvFile(m_lCsvDistKey)->ReadFile(m_strCsvPathName);
+}
+
+void KZCEkaMOKManager::LoadDefinition(KZCConvertInfo& store, bool bIsCheck) const
+{
+    const _ConvertTable table = Table(store);
+    if (table.pDefinition->CreateDefinition(table.pCsvFile->GetTypeId(), bIsCheck) != STATUS_OK)
+        throw FAULT;
+}
+
+std::string KZCEkaMOKManager::TrimOrEmpty(const char* szText)
+{
+    return szText != nullptr ? KZCEkaCommon::StringTrim(szText) : std::string();
 }
 
 /// A fault of a step: everything found before gives way to the one fatal error. \return STATUS_NG.
-int KZCEkaMOKManager::RecordFatalError(const char* szOperation) const
+int KZCEkaMOKManager::RecordFatalError(const char* szFunction)
 {
     KZCValidResult::instance()->SetFatalError();
-    KZCDebugDump::Log(LogName(szOperation).c_str(), UNEXPECTED_ERROR);
+    KZCDebugDump::Log(szFunction, UNEXPECTED_ERROR);
     return STATUS_NG;
 }

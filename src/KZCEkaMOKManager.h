@@ -1,21 +1,21 @@
 // Runs one check or conversion of the base family.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 
-#include "EkaMsgTable.h"
+#include "Fault.h"
 #include "KZCEkaITData.h"
 #include "KZCEkaXDOM.h"
+#include "LostText.h"
 
 class KZCConvertInfo;
-class KZCEkaCsvFile;
-struct FamilyTraits;
+struct ManagerFamily;
 struct _ConvertTable;
 
 /// Made for one request. Steps return STATUS_OK or STATUS_NG with the reason in the result store.
-/// The families share the steps and override the hooks below them.
+/// The families share the steps below the operations; a class overrides the operations whose steps
+/// take something from its family, and each operation is logged under the class that defines it.
 class KZCEkaMOKManager
 {
 public:
@@ -52,41 +52,57 @@ public:
     void ReloadCsvFile(long lCsvDistKey, const char* szPath);
 
 protected:
-    virtual const FamilyTraits& Traits() const;
-    /// Name of the class in the log.
-    virtual const char* ClassName() const;
-    /// Names of MakeMok in the log: of its refusal of the procedure id, and otherwise.
-    virtual std::string MismatchName() const;
-    virtual std::string MakeMokName() const;
-    /// The conversion store; one of the own family if there is none.
-    virtual KZCConvertInfo* Store() const;
-    /// The procedure id that the host says it files.
-    virtual std::string HostProcedure(const KZCEkaITData& it) const;
-    /// What the XML library calls the document in its messages.
-    virtual std::string DocumentName(const KZCEkaITData& it) const;
-    /// The document as it is assembled, before the XML library has seen it.
-    virtual std::string MakeDocumentText(const _ConvertTable& table) const;
+    /// The operations of the same names, with what they take from a family.
+    int RunInitForCheck(const ManagerFamily& family,
+                        bool bPublic,
+                        const char* szCsvPathName,
+                        long lCsvDistKey);
+    int RunInitForMok(const ManagerFamily& family,
+                      bool bPublic,
+                      const char* szCsvPathName,
+                      const char* szMokPathName,
+                      long lCsvDistKey);
+    int RunValidateCsv(const ManagerFamily& family) const;
+    int RunMakeMok(const ManagerFamily& family);
 
     /// Runs a step of the request; whatever it throws becomes the fatal error.
-    int RunStep(const char* szOperation, const std::function<int()>& step) const;
+    template <class Step>
+    static int RunStep(const char* szFunction, Step step)
+    {
+        try {
+            LostText::Forget();
+            const int nStatus = step();
+            LostText::Check();
+            return nStatus;
+        } catch (...) {
+            return RecordFatalError(szFunction);
+        }
+    }
     /// Trims a value, null counting as empty, and stores it. Whatever that throws becomes FAULT.
-    int StoreITValue(const char* szOperation,
-                     const char* szValue,
-                     const std::function<int(const char* szTrimmed)>& store) const;
+    template <class Store>
+    static int StoreITValue(const char* szFunction, const char* szValue, Store store)
+    {
+        try {
+            LostText::Forget();
+            const std::string strValue = TrimOrEmpty(szValue);
+            LostText::Check();
+            return store(strValue.c_str());
+        } catch (...) {
+            RaiseFault(szFunction, nullptr);
+        }
+    }
     /// The objects of the request's key.
-    KZCEkaITData& ITData() const;
-    const KZCEkaCsvFile& CsvFile() const;
+    _ConvertTable Table(KZCConvertInfo& store) const;
     /// Reads the request's file. \return what ReadFile returned. Throws FAULT.
-    int ReadCsvFile() const;
+    int ReadCsvFile(KZCConvertInfo& store) const;
     /// Loads the definitions of the file that was read. Throws FAULT if that fails.
-    void LoadDefinition(bool bIsCheck) const;
+    void LoadDefinition(KZCConvertInfo& store, bool bIsCheck) const;
     /// Drops all stores.
     void TerminateAll() { Terminate(true, true, false); }
 
 private:
-    std::string LogName(const char* szOperation) const;
-    int RecordFatalError(const char* szOperation) const;
-    void CheckKeptFile(KZCEkaValidator& validator, long lCsvDistKey) const;
+    static std::string TrimOrEmpty(const char* szText);
+    static int RecordFatalError(const char* szFunction);
 
     long m_lCsvDistKey = 0;  ///< set when initialisation has passed
     std::string m_strCsvPathName;

@@ -6,7 +6,75 @@
 #include "KZCConvertInfoCrossBorder.h"
 #include "KZCEkaCsvFileFinance.h"
 #include "KZCValidResult.h"
+#include "ManagerFamily.h"
 #include "definition/KZCEkaDefinitionCrossBorder.h"
+
+namespace {
+
+const char* HostProcedure(const KZCEkaITData& it)
+{
+    return dynamic_cast<const KZCEkaITDataCrossBorder&>(it).GetITDataCrossBorder(
+        KZCEkaITDataCrossBorder_t::IT_PROCEDURE_CD);
+}
+
+const char* DocumentName(const KZCEkaITData& it)
+{
+    return dynamic_cast<const KZCEkaITDataCrossBorder&>(it).GetITDataCrossBorder(
+        KZCEkaITDataCrossBorder_t::IT_SOFT_NAME);
+}
+
+std::string WriteReports(KZCEkaDefinitionFinance& definition,
+                         const KZCEkaCsvFileFinance& csv,
+                         KZCEkaITDataFinance& it)
+{
+    return dynamic_cast<KZCEkaDefinitionCrossBorder&>(definition)
+        .MakeReportToCsvCrossBorder(&csv, &dynamic_cast<KZCEkaITDataCrossBorder&>(it));
+}
+
+}  // namespace
+
+constexpr ManagerFamily KZCEkaMOKManagerCrossBorder::FAMILY = {
+    .traits = CROSSBORDER_FAMILY,
+    .pStore = &KZCConvertInfoCrossBorder::instance_crossborder,
+    .szInitForCheck = "KZCEkaMOKManagerCrossBorder::InitForCheck",
+    .szInitForMok = "KZCEkaMOKManagerCrossBorder::InitForMok",
+    .szValidateCsv = "KZCEkaMOKManagerCrossBorder::ValidateCsv",
+    .szMakeMok = "MakeMok",  // without the class, everywhere in it: wanted
+    .szMismatch = "MakeMok",
+    .pHostProcedure = &HostProcedure,
+    .pDocumentName = &DocumentName,
+    .pMakeText = &KZCEkaMOKManagerCrossBorder::MakeText,
+};
+
+constexpr KZCEkaMOKManagerFinance::Reading KZCEkaMOKManagerCrossBorder::READING = {
+    .pStore = &KZCConvertInfoCrossBorder::instance_crossborder,
+    .pRecordRefused = &KZCEkaMOKManagerCrossBorder::RecordRefusedFile,
+};
+
+int KZCEkaMOKManagerCrossBorder::InitForCheck(bool bPublic,
+                                              const char* szCsvPathName,
+                                              long lCsvDistKey)
+{
+    return RunInitForCheck(FAMILY, bPublic, szCsvPathName, lCsvDistKey);
+}
+
+int KZCEkaMOKManagerCrossBorder::InitForMok(bool bPublic,
+                                            const char* szCsvPathName,
+                                            const char* szMokPathName,
+                                            long lCsvDistKey)
+{
+    return RunInitForMok(FAMILY, bPublic, szCsvPathName, szMokPathName, lCsvDistKey);
+}
+
+int KZCEkaMOKManagerCrossBorder::ValidateCsv()
+{
+    return RunValidateCsv(FAMILY);
+}
+
+int KZCEkaMOKManagerCrossBorder::MakeMok()
+{
+    return RunMakeMok(FAMILY);
+}
 
 void KZCEkaMOKManagerCrossBorder::TerminateDifferentData()
 {
@@ -20,52 +88,33 @@ void KZCEkaMOKManagerCrossBorder::TerminateDifferentData()
 int KZCEkaMOKManagerCrossBorder::SetITDataCrossBorder(KZCEkaITDataCrossBorder_t eId,
                                                       const char* szValue)
 {
-    return StoreITValue("SetITDataCrossBorder", szValue, [&](const char* szTrimmed) {
-        return dynamic_cast<KZCEkaITDataCrossBorder&>(ITData()).SetITDataCrossBorder(eId,
+    constexpr const char* FUNCTION = "KZCEkaMOKManagerCrossBorder::SetITDataCrossBorder";
+    return StoreITValue(FUNCTION, szValue, [&](const char* szTrimmed) {
+        KZCEkaITData* pITData = Table(*KZCConvertInfoCrossBorder::instance_crossborder()).pITData;
+        return dynamic_cast<KZCEkaITDataCrossBorder&>(*pITData).SetITDataCrossBorder(eId,
                                                                                      szTrimmed);
     });
 }
 
 int KZCEkaMOKManagerCrossBorder::LoadCsvWithDefinitionCrossBorder_Check()
 {
-    return LoadForCheck("LoadCsvWithDefinitionCrossBorder_Check");
+    return RunLoad("KZCEkaMOKManagerCrossBorder::LoadCsvWithDefinitionCrossBorder_Check", READING,
+                   true, true);
 }
 
 int KZCEkaMOKManagerCrossBorder::LoadCsvWithDefinitionCrossBorder_Conv(bool bRead)
 {
-    return LoadForConversion("LoadCsvWithDefinitionCrossBorder_Conv", bRead);
+    return RunLoad("KZCEkaMOKManagerCrossBorder::LoadCsvWithDefinitionCrossBorder_Conv", READING,
+                   bRead, false);
 }
 
-const FamilyTraits& KZCEkaMOKManagerCrossBorder::Traits() const
+std::string KZCEkaMOKManagerCrossBorder::MakeText(const _ConvertTable& table)
 {
-    return CROSSBORDER_FAMILY;
+    return MakeDocumentText(table, &WriteReports);
 }
 
-const char* KZCEkaMOKManagerCrossBorder::ClassName() const
-{
-    return "KZCEkaMOKManagerCrossBorder";
-}
-
-std::string KZCEkaMOKManagerCrossBorder::MakeMokName() const
-{
-    return "MakeMok";
-}
-
-KZCConvertInfo* KZCEkaMOKManagerCrossBorder::Store() const
-{
-    return KZCConvertInfoCrossBorder::instance_crossborder();
-}
-
-void KZCEkaMOKManagerCrossBorder::RecordRefusedFile() const
+void KZCEkaMOKManagerCrossBorder::RecordRefusedFile()
 {
     if (KZCValidResult::instance()->IsEmpty())
         KZCEkaMOKManagerFinance::RecordRefusedFile();
-}
-
-std::string KZCEkaMOKManagerCrossBorder::MakeReports(KZCEkaDefinitionFinance& definition,
-                                                     const KZCEkaCsvFileFinance& csv,
-                                                     KZCEkaITDataFinance& it) const
-{
-    return dynamic_cast<KZCEkaDefinitionCrossBorder&>(definition)
-        .MakeReportToCsvCrossBorder(&csv, &dynamic_cast<KZCEkaITDataCrossBorder&>(it));
 }

@@ -11,19 +11,23 @@
 class KZCEkaMOKManagerCrossBorder : public KZCEkaMOKManagerFinance
 {
 public:
+    int InitForCheck(bool bPublic, const char* szCsvPathName, long lCsvDistKey) override;
+    int InitForMok(bool bPublic,
+                   const char* szCsvPathName,
+                   const char* szMokPathName,
+                   long lCsvDistKey) override;
+    int ValidateCsv() override;
+    int MakeMok() override;
     void TerminateDifferentData() override;
     /// As SetITData, with this family's fields.
     virtual int SetITDataCrossBorder(KZCEkaITDataCrossBorder_t eId, const char* szValue);
     virtual int LoadCsvWithDefinitionCrossBorder_Check();
     virtual int LoadCsvWithDefinitionCrossBorder_Conv(bool bRead);
 
-protected:
-    const FamilyTraits& Traits() const override;
-    const char* ClassName() const override;
-    std::string MakeMokName() const override;
-    KZCConvertInfo* Store() const override;
-    void RecordRefusedFile() const override;
-    std::string MakeReports(KZCEkaDefinitionFinance& definition,
-                            const KZCEkaCsvFileFinance& csv,
-                            KZCEkaITDataFinance& it) const override;
+private:
+    static std::string MakeText(const _ConvertTable& table);
+    static void RecordRefusedFile();
+
+    static const ManagerFamily FAMILY;
+    static const Reading READING;
 };

@@ -4,21 +4,75 @@
 
 #include "DocumentParts.h"
 #include "FamilyTraits.h"
-#include "Fault.h"
 #include "KZCConvertInfoFinance.h"
 #include "KZCEkaCsvFileFinance.h"
 #include "KZCValidResult.h"
+#include "ManagerFamily.h"
 #include "definition/KZCEkaDefinitionFinance.h"
 
 namespace {
 
-/// The IT section of a store of this family or of one derived from it.
-const KZCEkaITDataFinance& AsFinance(const KZCEkaITData& it)
+const char* HostProcedure(const KZCEkaITData& it)
 {
-    return dynamic_cast<const KZCEkaITDataFinance&>(it);
+    return dynamic_cast<const KZCEkaITDataFinance&>(it).GetITDataFinance(
+        KZCEkaITDataFinance_t::IT_PROCEDURE_CD);
+}
+
+const char* DocumentName(const KZCEkaITData& it)
+{
+    return dynamic_cast<const KZCEkaITDataFinance&>(it).GetITDataFinance(
+        KZCEkaITDataFinance_t::IT_SOFT_NAME);
+}
+
+std::string WriteReports(KZCEkaDefinitionFinance& definition,
+                         const KZCEkaCsvFileFinance& csv,
+                         KZCEkaITDataFinance& it)
+{
+    return definition.MakeReportToCsvFinance(&csv, &it);
 }
 
 }  // namespace
+
+constexpr ManagerFamily KZCEkaMOKManagerFinance::FAMILY = {
+    .traits = FINANCE_FAMILY,
+    .pStore = &KZCConvertInfoFinance::instance_finance,
+    .szInitForCheck = "KZCEkaMOKManagerFinance::InitForCheck",
+    .szInitForMok = "KZCEkaMOKManagerFinance::InitForMok",
+    .szValidateCsv = "KZCEkaMOKManagerFinance::ValidateCsv",
+    .szMakeMok = "KZCEkaMOKManagerFinance::MakeMok",
+    .szMismatch = "MakeMok",  // without the class: wanted
+    .pHostProcedure = &HostProcedure,
+    .pDocumentName = &DocumentName,
+    .pMakeText = &KZCEkaMOKManagerFinance::MakeText,
+};
+
+constexpr KZCEkaMOKManagerFinance::Reading KZCEkaMOKManagerFinance::READING = {
+    .pStore = &KZCConvertInfoFinance::instance_finance,
+    .pRecordRefused = &KZCEkaMOKManagerFinance::RecordRefusedFile,
+};
+
+int KZCEkaMOKManagerFinance::InitForCheck(bool bPublic, const char* szCsvPathName, long lCsvDistKey)
+{
+    return RunInitForCheck(FAMILY, bPublic, szCsvPathName, lCsvDistKey);
+}
+
+int KZCEkaMOKManagerFinance::InitForMok(bool bPublic,
+                                        const char* szCsvPathName,
+                                        const char* szMokPathName,
+                                        long lCsvDistKey)
+{
+    return RunInitForMok(FAMILY, bPublic, szCsvPathName, szMokPathName, lCsvDistKey);
+}
+
+int KZCEkaMOKManagerFinance::ValidateCsv()
+{
+    return RunValidateCsv(FAMILY);
+}
+
+int KZCEkaMOKManagerFinance::MakeMok()
+{
+    return RunMakeMok(FAMILY);
+}
 
 void KZCEkaMOKManagerFinance::TerminateDifferentData()
 {
@@ -30,57 +84,69 @@ void KZCEkaMOKManagerFinance::TerminateDifferentData()
 
 int KZCEkaMOKManagerFinance::SetITDataFinance(KZCEkaITDataFinance_t eId, const char* szValue)
 {
-    return StoreITValue("SetITDataFinance", szValue, [&](const char* szTrimmed) {
-        return dynamic_cast<KZCEkaITDataFinance&>(ITData()).SetITDataFinance(eId, szTrimmed);
+    constexpr const char* FUNCTION = "KZCEkaMOKManagerFinance::SetITDataFinance";
+    return StoreITValue(FUNCTION, szValue, [&](const char* szTrimmed) {
+        KZCEkaITData* pITData = Table(*KZCConvertInfoFinance::instance_finance()).pITData;
+        return dynamic_cast<KZCEkaITDataFinance&>(*pITData).SetITDataFinance(eId, szTrimmed);
     });
 }
 
 int KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Check()
 {
-    return LoadForCheck("LoadCsvWithDefinitionFinance_Check");
+    return RunLoad("KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Check", READING, true,
+                   true);
 }
 
 int KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Conv(bool bRead)
 {
-    return LoadForConversion("LoadCsvWithDefinitionFinance_Conv", bRead);
+    return RunLoad("KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Conv", READING, bRead,
+                   false);
 }
 
-int KZCEkaMOKManagerFinance::LoadForCheck(const char* szOperation) const
+std::string KZCEkaMOKManagerFinance::createCATALOGXML(const std::vector<std::string>& listReportId)
 {
-    return RunStep(szOperation, [this] {
-        const int nStatus = ReadAndTest();
+    std::string strCatalogue = DocumentParts::CatalogueHead();
+    for (const std::string& strReportId : listReportId)
+        strCatalogue += DocumentParts::CatalogueItem(strReportId);
+    return strCatalogue + DocumentParts::CatalogueTail();
+}
+
+int KZCEkaMOKManagerFinance::RunLoad(const char* szFunction,
+                                     const Reading& reading,
+                                     bool bRead,
+                                     bool bIsCheck) const
+{
+    return RunStep(szFunction, [&] {
+        const int nStatus = bRead ? ReadAndTest(reading) : STATUS_OK;
         if (nStatus == STATUS_OK)
-            LoadDefinition(true);
+            LoadDefinition(*reading.pStore(), bIsCheck);
         return nStatus;
     });
 }
 
-int KZCEkaMOKManagerFinance::LoadForConversion(const char* szOperation, bool bRead) const
+int KZCEkaMOKManagerFinance::ReadAndTest(const Reading& reading) const
 {
-    return RunStep(szOperation, [this, bRead] {
-        const int nStatus = bRead ? ReadAndTest() : STATUS_OK;
-        if (nStatus == STATUS_OK)
-            LoadDefinition(false);
-        return nStatus;
-    });
-}
-
-int KZCEkaMOKManagerFinance::ReadAndTest() const
-{
-    const int nStatus = ReadCsvFile();
+    KZCConvertInfo& store = *reading.pStore();
+    const int nStatus = ReadCsvFile(store);
     if (nStatus != STATUS_OK) {
-        RecordRefusedFile();
+        reading.pRecordRefused();
         return nStatus;
     }
-    return dynamic_cast<const KZCEkaCsvFileFinance&>(CsvFile()).checkMaxRecord();
+    return dynamic_cast<const KZCEkaCsvFileFinance&>(*Table(store).pCsvFile).checkMaxRecord();
 }
 
-void KZCEkaMOKManagerFinance::RecordRefusedFile() const
+void KZCEkaMOKManagerFinance::RecordRefusedFile()
 {
     KZCValidResult::instance()->SetResult(HE70019E, 0, 0, SINGLE_COLUMN);
 }
 
-std::string KZCEkaMOKManagerFinance::MakeDocumentText(const _ConvertTable& table) const
+std::string KZCEkaMOKManagerFinance::MakeText(const _ConvertTable& table)
+{
+    return MakeDocumentText(table, &WriteReports);
+}
+
+std::string KZCEkaMOKManagerFinance::MakeDocumentText(const _ConvertTable& table,
+                                                      ReportWriter pWriteReports)
 {
     auto& definition = dynamic_cast<KZCEkaDefinitionFinance&>(*table.pDefinition);
     auto& csv = dynamic_cast<KZCEkaCsvFileFinance&>(*table.pCsvFile);
@@ -93,7 +159,7 @@ std::string KZCEkaMOKManagerFinance::MakeDocumentText(const _ConvertTable& table
     const std::string strReports =
         definition.getCsvRecordType() == KZCEkaDefinitionFinance::CSV_RECORD_MULTI
             ? definition.MakeSingleTypeReportFromCsvMultiRecord(&csv, &it)
-            : MakeReports(definition, csv, it);
+            : pWriteReports(definition, csv, it);
     strText += createCATALOGXML(definition.GetReportIDList());
     strText += DocumentParts::ContentsStart();
     strText += it.GetXml();
@@ -101,49 +167,4 @@ std::string KZCEkaMOKManagerFinance::MakeDocumentText(const _ConvertTable& table
     strText += DocumentParts::ContentsEnd();
     strText += DocumentParts::ProcedureAndRootEnd(definition.GetProcId());
     return strText;
-}
-
-std::string KZCEkaMOKManagerFinance::MakeReports(KZCEkaDefinitionFinance& definition,
-                                                 const KZCEkaCsvFileFinance& csv,
-                                                 KZCEkaITDataFinance& it) const
-{
-    return definition.MakeReportToCsvFinance(&csv, &it);
-}
-
-std::string KZCEkaMOKManagerFinance::createCATALOGXML(const std::vector<std::string>& listReportId)
-{
-    std::string strCatalogue = DocumentParts::CatalogueHead();
-    for (const std::string& strReportId : listReportId)
-        strCatalogue += DocumentParts::CatalogueItem(strReportId);
-    return strCatalogue + DocumentParts::CatalogueTail();
-}
-
-const FamilyTraits& KZCEkaMOKManagerFinance::Traits() const
-{
-    return FINANCE_FAMILY;
-}
-
-const char* KZCEkaMOKManagerFinance::ClassName() const
-{
-    return "KZCEkaMOKManagerFinance";
-}
-
-std::string KZCEkaMOKManagerFinance::MismatchName() const
-{
-    return "MakeMok";
-}
-
-KZCConvertInfo* KZCEkaMOKManagerFinance::Store() const
-{
-    return KZCConvertInfoFinance::instance_finance();
-}
-
-std::string KZCEkaMOKManagerFinance::HostProcedure(const KZCEkaITData& it) const
-{
-    return AsFinance(it).GetITDataFinance(KZCEkaITDataFinance_t::IT_PROCEDURE_CD);
-}
-
-std::string KZCEkaMOKManagerFinance::DocumentName(const KZCEkaITData& it) const
-{
-    return AsFinance(it).GetITDataFinance(KZCEkaITDataFinance_t::IT_SOFT_NAME);
 }

@@ -15,6 +15,13 @@ class KZCEkaDefinitionFinance;
 class KZCEkaMOKManagerFinance : public KZCEkaMOKManager
 {
 public:
+    int InitForCheck(bool bPublic, const char* szCsvPathName, long lCsvDistKey) override;
+    int InitForMok(bool bPublic,
+                   const char* szCsvPathName,
+                   const char* szMokPathName,
+                   long lCsvDistKey) override;
+    int ValidateCsv() override;
+    int MakeMok() override;
     void TerminateDifferentData() override;
     /// As SetITData, with this family's fields.
     virtual int SetITDataFinance(KZCEkaITDataFinance_t eId, const char* szValue);
@@ -28,23 +35,32 @@ public:
     static std::string createCATALOGXML(const std::vector<std::string>& listReportId);
 
 protected:
-    const FamilyTraits& Traits() const override;
-    const char* ClassName() const override;
-    std::string MismatchName() const override;
-    KZCConvertInfo* Store() const override;
-    std::string HostProcedure(const KZCEkaITData& it) const override;
-    std::string DocumentName(const KZCEkaITData& it) const override;
-    std::string MakeDocumentText(const _ConvertTable& table) const override;
+    /// How a family reads its file and makes its reports.
+    struct Reading
+    {
+        KZCConvertInfo* (*pStore)();
+        /// Records that the file was refused, on top of what its reader recorded.
+        void (*pRecordRefused)();
+    };
+    using ReportWriter = std::string (*)(KZCEkaDefinitionFinance& definition,
+                                         const KZCEkaCsvFileFinance& csv,
+                                         KZCEkaITDataFinance& it);
+
+    /// The operations that load. \param bRead  Read the file and test its limits before.
+    int RunLoad(const char* szFunction, const Reading& reading, bool bRead, bool bIsCheck) const;
+    /// The document as it is assembled. \param pWriteReports  Writes the reports of a document in
+    /// which records go through the forms in turn.
+    static std::string MakeDocumentText(const _ConvertTable& table, ReportWriter pWriteReports);
+    /// Records a refused file whatever is recorded already.
+    static void RecordRefusedFile();
+
+private:
+    static std::string MakeText(const _ConvertTable& table);
 
     /// Reads the request's file and tests its limits. \return the code of what failed. Throws
     /// FAULT.
-    int ReadAndTest() const;
-    /// Records that the file was refused, on top of what its reader recorded.
-    virtual void RecordRefusedFile() const;
-    /// The reports of a document in which records go through the forms in turn.
-    virtual std::string MakeReports(KZCEkaDefinitionFinance& definition,
-                                    const KZCEkaCsvFileFinance& csv,
-                                    KZCEkaITDataFinance& it) const;
-    int LoadForCheck(const char* szOperation) const;
-    int LoadForConversion(const char* szOperation, bool bRead) const;
+    int ReadAndTest(const Reading& reading) const;
+
+    static const ManagerFamily FAMILY;
+    static const Reading READING;
 };

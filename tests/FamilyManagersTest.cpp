@@ -440,12 +440,17 @@ TYPED_TEST(FamilyManagersTest, SavedFileIsTheTextThatIsHandedOut)
     EXPECT_EQ(this->m_folder.Read("out.mok"), this->Mok());
 }
 
-TYPED_TEST(FamilyManagersTest, WithoutADocumentNothingIsSavedOrHandedOut)
+TYPED_TEST(FamilyManagersTest, WithoutADocumentNothingIsSavedOrHandedOutAndTheBaseClassSaysSo)
 {
+    const DebugLog log;
     EXPECT_EQ(Told([&] { return this->m_manager.SaveMok(); }), FATAL);
     std::string strMok = "untouched";
     EXPECT_EQ(Told([&] { return this->m_manager.GetMok(strMok); }), FATAL);
     EXPECT_EQ(strMok, "untouched");
+    // The two operations are the base class's own, whatever the family.
+    EXPECT_THAT(LogEntries(log),
+                ElementsAre(LogEntry{"KZCEkaMOKManager::SaveMok", UNEXPECTED_ERROR},
+                            LogEntry{"KZCEkaMOKManager::GetMok", UNEXPECTED_ERROR}));
 }
 
 // ---- stores ------------------------------------------------------------------------------------

@@ -3,9 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <string>
 
 #include "support/FamilyManager.h"
+#include "support/LogEntries.h"
+#include "support/Raised.h"
 #include "support/RefusingStore.h"
 
 namespace {
@@ -61,6 +64,53 @@ TEST_F(MokManagerCrossBorderTest, QuotedCellsKeepCommasQuotesAndLineEnds)
     Prepare("301,1,\"a,\"\"\nb\"\n");
     EXPECT_EQ(Make(), PASSES);
     EXPECT_EQ(Mok(), Document(Item(1), Report(1, "1", "a,\"\nb")));
+}
+
+// ---- what the Finance manager hands down -------------------------------------------------------
+
+TEST_F(MokManagerCrossBorderTest, FinanceSetterIsLoggedUnderTheFinanceClass)
+{
+    EXPECT_EQ(InitMok(Write("x"), m_folder.Path("out.mok")), PASSES);
+    KZCEkaTaxOffices::destroy();
+    const DebugLog log;
+    EXPECT_EQ(Raised([&] {
+                  static_cast<void>(
+                      m_manager.SetITDataFinance(KZCEkaITDataFinance_t::IT_ZEIMUSHO_CD, "00101"));
+              }),
+              FAULT);
+    EXPECT_EQ(LogEntries(log).back(), (LogEntry{"KZCEkaMOKManagerFinance::SetITDataFinance", ""}));
+}
+
+TEST_F(MokManagerCrossBorderTest, FinanceLoadingIsLoggedUnderTheFinanceClass)
+{
+    const std::string strPath = Write("301,1,a\n");
+    EXPECT_EQ(InitCheck(strPath.c_str()), PASSES);
+    std::filesystem::remove(strPath);
+    const DebugLog log;
+    EXPECT_EQ(m_manager.LoadCsvWithDefinitionFinance_Check(), STATUS_NG);
+    EXPECT_EQ(LogEntries(log).back(),
+              (LogEntry{"KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Check",
+                        UNEXPECTED_ERROR}));
+    EXPECT_EQ(m_manager.LoadCsvWithDefinitionFinance_Conv(true), STATUS_NG);
+    EXPECT_EQ(
+        LogEntries(log).back(),
+        (LogEntry{"KZCEkaMOKManagerFinance::LoadCsvWithDefinitionFinance_Conv", UNEXPECTED_ERROR}));
+}
+
+TEST_F(MokManagerCrossBorderTest, FinanceLoadingAddsMessageNineteenBehindTheReason)
+{
+    EXPECT_EQ(InitCheck(Write("999,1,a\n").c_str()), PASSES);
+    EXPECT_EQ(Told([&] { return m_manager.LoadCsvWithDefinitionFinance_Check(); }),
+              "refuses 0000-00001-HE70021E,0000-00000-HE70019E");
+}
+
+TEST_F(MokManagerCrossBorderTest, LoadingOfTheBaseIsLoggedUnderTheBaseClass)
+{
+    EXPECT_EQ(InitCheck(Write("301,1,\xff\n").c_str()), PASSES);
+    const DebugLog log;
+    EXPECT_EQ(m_manager.LoadCsvWithDefinition(true), STATUS_NG);
+    EXPECT_EQ(LogEntries(log).back(),
+              (LogEntry{"KZCEkaMOKManager::LoadCsvWithDefinition", UNEXPECTED_ERROR}));
 }
 
 // ---- stores ------------------------------------------------------------------------------------

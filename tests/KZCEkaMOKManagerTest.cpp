@@ -17,10 +17,12 @@
 #include "KZCConvertInfo.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
+#include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/Raised.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
+#include "support/StorePeek.h"
 #include "support/TempFolder.h"
 
 namespace {
@@ -399,6 +401,23 @@ TEST_F(MokManagerTest, UndecodableCsvIsAFatalError)
     EXPECT_EQ(Check("003,1,\xff\n"), std::string("refuses ") + FATAL_ERROR);
     EXPECT_THAT(LogMessages(log), testing::ElementsAre("CSVファイルリードエラーが発生しました。",
                                                        UNEXPECTED_ERROR, UNEXPECTED_ERROR));
+}
+
+TEST_F(MokManagerTest, EachStepThatRaisesIsLoggedUnderItsOwnName)
+{
+    const std::string strCsv = Write("003,1,\xff\n");
+    EXPECT_EQ(InitCheck(strCsv.c_str()), PASSES);
+    const DebugLog log;
+    EXPECT_EQ(m_manager.LoadCsvWithDefinition(true), STATUS_NG);
+    EXPECT_EQ(LogEntries(log).back(),
+              (LogEntry{"KZCEkaMOKManager::LoadCsvWithDefinition", UNEXPECTED_ERROR}));
+    EXPECT_EQ(m_manager.ValidateCsv(), STATUS_NG);
+    EXPECT_EQ(LogEntries(log).back(),
+              (LogEntry{"KZCEkaMOKManager::ValidateCsv", UNEXPECTED_ERROR}));
+    const Bundle bundle(SMALL_DEFINITION, std::nullopt);
+    KZCEkaTaxOffices::destroy();
+    EXPECT_EQ(m_manager.InitForMok(true, "", "", 1), STATUS_NG);
+    EXPECT_EQ(LogEntries(log).back(), (LogEntry{"KZCEkaMOKManager::InitForMok", UNEXPECTED_ERROR}));
 }
 
 TEST_F(MokManagerTest, DefinitionWithAnUnknownKindIsAFatalError)
@@ -834,7 +853,9 @@ TEST_F(MokManagerTest, WithoutADocumentNothingIsSavedOrHandedOut)
     EXPECT_EQ(Told([&] { return m_manager.GetMok(strMok); }),
               std::string("refuses ") + FATAL_ERROR);
     EXPECT_EQ(strMok, "untouched");
-    EXPECT_THAT(LogMessages(log), testing::ElementsAre(UNEXPECTED_ERROR, UNEXPECTED_ERROR));
+    EXPECT_THAT(LogEntries(log),
+                testing::ElementsAre(LogEntry{"KZCEkaMOKManager::SaveMok", UNEXPECTED_ERROR},
+                                     LogEntry{"KZCEkaMOKManager::GetMok", UNEXPECTED_ERROR}));
 }
 
 TEST_F(MokManagerTest, SavingWithoutAPathIsAFatalError)
@@ -1003,6 +1024,8 @@ TEST_F(MokManagerTerminateTest, KeyAlone)
 TEST_F(MokManagerTerminateTest, StoreWithKeyIsStoreAlone)
 {
     m_manager.Terminate(false, true, true);
+    // Clearing the key as well would make a new store for it.
+    EXPECT_EQ(StorePeek::Kind(), StoreKind::None);
     EXPECT_EQ(State(), "0 0 no offices 0001-00002-HE70001E");
 }
 
