@@ -73,11 +73,14 @@ void SetFiler(KZCEkaMOKManager& manager,
 
 KZCCsvConvMokEka::KZCCsvConvMokEka()
 {
+    // The log first: what goes wrong in the start of the XML library can be traced then.
     KZCDebugDump::InitDebugDump();
+    m_session.emplace();
 }
 
 KZCCsvConvMokEka::~KZCCsvConvMokEka()
 {
+    m_session.reset();
     ReleaseResult();
 }
 
@@ -145,9 +148,8 @@ KZCConvertResultEka* KZCCsvConvMokEka::ELCsvCheck(const char* szCsvPathName, lon
     constexpr OperationTexts TEXTS = {
         "KZCCsvConvMokEka::ELCsvCheck", "ELCsvCheck NG : 返却値_ErrorMsg:",
         "ELCsvCheck OK : 返却値_ProcID:", "ELCsvCheck OK : 返却値_RecordCount:"};
-    RequestSteps::TraceArguments(
-        "ELCsvCheck引数",
-        {{"szCsvPathName:", szCsvPathName}, {"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()}});
+    RequestSteps::TraceArguments("ELCsvCheck引数", {{"szCsvPathName:", szCsvPathName}});
+    RequestSteps::TraceKey("ELCsvCheck引数", lCsvDistKey);
     KZCConvertResultEka* pRecord = StartRecord();
     if (pRecord != nullptr)
         RequestSteps::CheckKept<BaseFamily>(TEXTS, *pRecord, szCsvPathName, lCsvDistKey);
@@ -183,7 +185,7 @@ KZCConvertResultEka* KZCCsvConvMokEka::ELCsvConvMok(long lCsvDistKey,
                                   .szDairiAdr = szDairiAdr,
                                   .szTetsuzuki = szTetsuzuki,
                                   .szSoftName = EL_SOFT_NAME};
-    RequestSteps::TraceArguments(STEM, {{"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()}});
+    RequestSteps::TraceKey(STEM, lCsvDistKey);
     TraceFiler(STEM, filer);
     KZCConvertResultEka* pRecord = StartRecord();
     if (pRecord != nullptr)
@@ -219,13 +221,9 @@ KZCConvertResultEka* KZCCsvConvMokEka::CsvWrite(const char* szCsvPath, const cha
 
 void KZCCsvConvMokEka::Terminate()
 {
-    KZCEkaCommon::SetCsvCheckFlag(false);
-    try {
-        KZCEkaMOKManager().Terminate(true, true, false);
-    } catch (...) {
-        return;
-    }
-    ReleaseResult();
+    // The base manager serves for all families.
+    RequestSteps::RunTerminate([] { KZCEkaMOKManager().Terminate(true, true, false); },
+                               [] { ReleaseResult(); });
 }
 
 bool KZCCsvConvMokEka::CreateResult()

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <memory>
-#include <string>
+#include <optional>
 
 #include "KZCConvertResultEka.h"
 #include "XercesGuards.h"
@@ -146,5 +146,5 @@ private:
 
     static inline std::unique_ptr<KZCConvertResultEka> m_pResult;
 
-    XercesSession m_session;
+    std::optional<XercesSession> m_session;  ///< begins behind the log, ends before the record
 };

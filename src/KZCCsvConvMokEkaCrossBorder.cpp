@@ -132,9 +132,8 @@ KZCConvertResultEka* KZCCsvConvMokEka::ELCsvCheckCrossBorder(const char* szCsvPa
         "ELCsvCheckCrossBorder",
         "ELCsvCheckCrossBorder NG : 返却値_ErrorMsg:", "ELCsvCheckCrossBorder OK : 返却値_ProcID:",
         "ELCsvCheckCrossBorder OK : 返却値_RecordCount:"};
-    RequestSteps::TraceArguments(
-        "ELCsvCheckCrossBorder引数_",
-        {{"szCsvPathName:", szCsvPathName}, {"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()}});
+    RequestSteps::TraceArguments("ELCsvCheckCrossBorder引数_", {{"szCsvPathName:", szCsvPathName}});
+    RequestSteps::TraceKey("ELCsvCheckCrossBorder引数_", lCsvDistKey);
     KZCConvertResultEka* pRecord = StartRecord();
     if (pRecord != nullptr)
         RequestSteps::CheckKept<CrossBorderFamily>(TEXTS, *pRecord, szCsvPathName, lCsvDistKey);
@@ -182,9 +181,9 @@ KZCConvertResultEka* KZCCsvConvMokEka::ELCsvConvMokCrossBorder(long lCsvDistKey,
                                   .szTeishutsuDay = szTeishutsuDay,
                                   .szNozeishaZip1 = szNozeishaZip1,
                                   .szNozeishaZip2 = szNozeishaZip2};
+    RequestSteps::TraceKey("ELCsvConvMokCrossBorder引数_", lCsvDistKey);
     RequestSteps::TraceArguments("ELCsvConvMokCrossBorder引数_",
-                                 {{"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()},
-                                  {"szZeimushoCD:", szZeimushoCD},
+                                 {{"szZeimushoCD:", szZeimushoCD},
                                   {"szTeishutsuEra:", szTeishutsuEra},
                                   {"szTeishutsuYear:", szTeishutsuYear},
                                   {"szTeishutsuMonth:", szTeishutsuMonth},

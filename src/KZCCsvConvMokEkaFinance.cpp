@@ -130,9 +130,8 @@ KZCConvertResultEka* KZCCsvConvMokEka::ELCsvCheckFinance(const char* szCsvPathNa
     constexpr OperationTexts TEXTS = {
         "KZCCsvConvMokEka::ELCsvCheckFinance", "ELCsvCheckFinance NG : 返却値_ErrorMsg:",
         "ELCsvCheckFinance OK : 返却値_ProcID:", "ELCsvCheckFinance OK : 返却値_RecordCount:"};
-    RequestSteps::TraceArguments(
-        "ELCsvCheckFinance引数_",
-        {{"szCsvPathName:", szCsvPathName}, {"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()}});
+    RequestSteps::TraceArguments("ELCsvCheckFinance引数_", {{"szCsvPathName:", szCsvPathName}});
+    RequestSteps::TraceKey("ELCsvCheckFinance引数_", lCsvDistKey);
     KZCConvertResultEka* pRecord = StartRecord();
     if (pRecord != nullptr)
         RequestSteps::CheckKept<FinanceFamily>(TEXTS, *pRecord, szCsvPathName, lCsvDistKey);
@@ -180,26 +179,25 @@ KZCConvertResultEka* KZCCsvConvMokEka::ELCsvConvMokFinance(long lCsvDistKey,
                                   .szTeishutsuDay = szTeishutsuDay,
                                   .szNozeishaZip1 = szNozeishaZip1,
                                   .szNozeishaZip2 = szNozeishaZip2};
-    RequestSteps::TraceArguments("ELCsvConvMok引数_",
-                                 {{"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()},
-                                  {"szZeimushoCD:", szZeimushoCD},
-                                  {"szNozeishaId:", szNozeishaId},
-                                  {"szKojinBango:", szKojinBango},
-                                  {"szHojinBango:", szHojinBango},
-                                  {"szNozeishaNm:", szNozeishaNm},
-                                  {"szNozeishaAdr:", szNozeishaAdr},
-                                  {"szDaihyoNm:", szDaihyoNm},
-                                  {"szDairiId:", szDairiId},
-                                  {"szDairiNm:", szDairiNm},
-                                  {"szDairiAdr:", szDairiAdr},
-                                  {"szTetsuzuki:", szTetsuzuki},
-                                  {"szTeishutsuEra:", szTeishutsuEra},
-                                  {"szTeishutsuYear:", szTeishutsuYear},
-                                  {"szTeishutsuMonth:", szTeishutsuMonth},
-                                  {"szTeishutsuDay:", szTeishutsuDay},
-                                  {"SoftName:", szSoftName},
-                                  {"szNozeishaZip1:", szNozeishaZip1},
-                                  {"szNozeishaZip2:", szNozeishaZip2}});
+    RequestSteps::TraceKey("ELCsvConvMok引数_", lCsvDistKey);
+    RequestSteps::TraceArguments("ELCsvConvMok引数_", {{"szZeimushoCD:", szZeimushoCD},
+                                                       {"szNozeishaId:", szNozeishaId},
+                                                       {"szKojinBango:", szKojinBango},
+                                                       {"szHojinBango:", szHojinBango},
+                                                       {"szNozeishaNm:", szNozeishaNm},
+                                                       {"szNozeishaAdr:", szNozeishaAdr},
+                                                       {"szDaihyoNm:", szDaihyoNm},
+                                                       {"szDairiId:", szDairiId},
+                                                       {"szDairiNm:", szDairiNm},
+                                                       {"szDairiAdr:", szDairiAdr},
+                                                       {"szTetsuzuki:", szTetsuzuki},
+                                                       {"szTeishutsuEra:", szTeishutsuEra},
+                                                       {"szTeishutsuYear:", szTeishutsuYear},
+                                                       {"szTeishutsuMonth:", szTeishutsuMonth},
+                                                       {"szTeishutsuDay:", szTeishutsuDay},
+                                                       {"SoftName:", szSoftName},
+                                                       {"szNozeishaZip1:", szNozeishaZip1},
+                                                       {"szNozeishaZip2:", szNozeishaZip2}});
     KZCConvertResultEka* pRecord = StartRecord();
     if (pRecord != nullptr)
         RequestSteps::ConvertKept<FinanceFamily>(

@@ -1,5 +1,7 @@
 #include "RequestSteps.h"
 
+#include <string>
+
 namespace RequestSteps {
 
 namespace {
@@ -20,6 +22,17 @@ void TraceArguments(const char* szStem, std::initializer_list<Argument> argument
             KZCCsvConvMokEka::OutputIF(szValue, (std::string(szStem) + szName).c_str());
     } catch (...) {
         return;  // a trace is never worth a request
+    }
+}
+
+void TraceKey(const char* szStem, long lCsvDistKey)
+{
+    if (!KZCDebugDump::IsOn())
+        return;
+    try {
+        TraceArguments(szStem, {{"lCsvDistKey:", std::to_string(lCsvDistKey).c_str()}});
+    } catch (...) {
+        return;  // a long number takes memory of its own
     }
 }
 

@@ -60,6 +60,9 @@ using Argument = std::pair<const char*, const char*>;
 /// Traces arguments. \param szStem  Begin of their labels, such as "CsvCheck引数".
 void TraceArguments(const char* szStem, std::initializer_list<Argument> arguments);
 
+/// Traces the key of an EL request in decimal digits.
+void TraceKey(const char* szStem, long lCsvDistKey);
+
 /// Not null and not empty.
 bool IsGiven(const char* szText);
 
@@ -86,20 +89,30 @@ enum class Outcome
 };
 
 /// Runs the body of a request. What it throws becomes the fatal error.
-template <class Body>
-Outcome RunBody(const char* szFunction, Body body)
+/// \param lowerFlag  Called first then, as without memory not even that error can be recorded.
+template <class Body, class LowerFlag>
+Outcome RunBody(const char* szFunction, Body body, LowerFlag lowerFlag)
 {
     try {
         return body() ? Outcome::Passed : Outcome::Refused;
     } catch (...) {
+        lowerFlag();
         KZCValidResult::instance()->SetFatalError();
         KZCDebugDump::Log(szFunction, UNEXPECTED_ERROR);
         return Outcome::Fault;
     }
 }
 
+/// The same for a request that doesn't put the check flag up.
+template <class Body>
+Outcome RunBody(const char* szFunction, Body body)
+{
+    return RunBody(szFunction, body, [] {});
+}
+
 /// Runs the closing steps of a request, which tell the result, and stores that. What they throw is
-/// logged; the result is what they had told before, or a failure if the family wants it so.
+/// logged and recorded nowhere; the result is what they had told before, or a failure if the family
+/// wants it so. A failure shows nothing of what a request that passes hands over.
 template <class Closing>
 void RunClosing(const FamilyTraits& traits,
                 const char* szFunction,
@@ -113,6 +126,11 @@ void RunClosing(const FamilyTraits& traits,
         KZCDebugDump::Log(szFunction, UNEXPECTED_ERROR);
         if (traits.bFailsOnClosingFault)
             szResult = PROCESS_FAIL;
+        if (szResult == PROCESS_FAIL) {
+            record.SetProcId({});
+            record.SetRecordCount({});
+            record.SetMokData({});
+        }
     }
     record.SetResult(szResult);
 }
@@ -143,7 +161,7 @@ void CheckPlain(const OperationTexts& texts, KZCConvertResultEka& record, const 
     constexpr const FamilyTraits& TRAITS = Family::TRAITS;
     std::string strProcId;
     typename Family::Manager manager;
-    const Outcome eOutcome = RunBody(texts.szFunction, [&] {
+    const auto check = [&] {
         manager.TerminateDifferentData();
         KZCEkaCommon::setExecMode(TRAITS.eExecMode);
         if (manager.InitForCheck(true, szCsvPathName, PLAIN_KEY) != STATUS_OK ||
@@ -151,6 +169,10 @@ void CheckPlain(const OperationTexts& texts, KZCConvertResultEka& record, const 
             return false;
         strProcId = manager.GetProcID();
         return true;
+    };
+    const Outcome eOutcome = RunBody(texts.szFunction, check, [] {
+        if (!TRAITS.bHidesPlainFault)
+            KZCEkaCommon::SetCsvCheckFlag(false);
     });
     const bool bHidden = eOutcome == Outcome::Fault && TRAITS.bHidesPlainFault;
     if (!bHidden)
@@ -211,7 +233,7 @@ void CheckKept(const OperationTexts& texts,
     std::string strProcId;
     std::string strRecordCount;
     typename Family::Manager manager;
-    const Outcome eChecked = RunBody(texts.szFunction, [&] {
+    const auto check = [&] {
         manager.TerminateDifferentData();
         KZCEkaCommon::setExecMode(TRAITS.eExecMode);
         if (manager.InitForCheck(false, szCsvPathName, lCsvDistKey) != STATUS_OK ||
@@ -220,7 +242,9 @@ void CheckKept(const OperationTexts& texts,
         strProcId = manager.GetProcID();
         strRecordCount = manager.GetRecodeCount();
         return true;
-    });
+    };
+    const Outcome eChecked =
+        RunBody(texts.szFunction, check, [] { KZCEkaCommon::SetCsvCheckFlag(false); });
     KZCEkaCommon::SetCsvCheckFlag(false);
     bool bPassed = eChecked == Outcome::Passed;
     if (bPassed) {
@@ -255,6 +279,8 @@ void ConvertKept(const OperationTexts& texts,
                  SetFiler setFiler)
 {
     constexpr const FamilyTraits& TRAITS = Family::TRAITS;
+    std::string strProcId;
+    std::string strMok;
     typename Family::Manager manager;
     const Outcome eOutcome = RunBody(texts.szFunction, [&] {
         manager.TerminateDifferentData();
@@ -262,23 +288,37 @@ void ConvertKept(const OperationTexts& texts,
         if (manager.InitForMok(false, nullptr, nullptr, lCsvDistKey) != STATUS_OK)
             return false;
         setFiler(manager, TRAITS.el);
-        std::string strMok;
         if (manager.HasErrorMsg() || Family::LoadForConversion(manager, false) != STATUS_OK ||
             manager.MakeMok() != STATUS_OK || manager.GetMok(strMok) != STATUS_OK)
             return false;
-        const std::string strProcId = manager.GetProcID();
-        record.SetMokData(strMok);
-        record.SetProcId(strProcId);
-        KZCCsvConvMokEka::OutputIF("", texts.szPassed);
+        strProcId = manager.GetProcID();
         return true;
     });
     RunClosing(TRAITS, texts.szFunction, record, [&](const char*& szResult) {
-        if (eOutcome == Outcome::Passed)
-            szResult = PROCESS_OK;
-        else
+        if (eOutcome != Outcome::Passed) {
             KZCCsvConvMokEka::OutputIF(TakeErrors(TRAITS, manager, record).c_str(),
                                        texts.szRefused);
+            return;
+        }
+        record.SetMokData(strMok);
+        record.SetProcId(strProcId);
+        szResult = PROCESS_OK;
+        KZCCsvConvMokEka::OutputIF("", texts.szPassed);
     });
+}
+
+/// Ends what lives between requests, and the record behind it. Whatever ending the stores throws
+/// stops here, and the record stays then.
+template <class EndStores, class EndRecord>
+void RunTerminate(EndStores endStores, EndRecord endRecord)
+{
+    KZCEkaCommon::SetCsvCheckFlag(false);
+    try {
+        endStores();
+    } catch (...) {
+        return;
+    }
+    endRecord();
 }
 
 template <class SetField>

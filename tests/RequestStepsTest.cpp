@@ -143,6 +143,17 @@ TEST_P(FamilyTest, ElConversionOfAnUnknownKeyIsArgumentOne)
     EXPECT_EQ(ElConvert(GetParam(), 3, FilerOf(GetParam())), Refused("9999-00001-HE70013E"));
 }
 
+TEST_P(FamilyTest, UnknownKeyOfAnElConversionIsMadeInPassingAndStays)
+{
+    const std::string strCsv = GoodCsv(GetParam());
+    EXPECT_EQ(ElConvert(GetParam(), 3, FilerOf(GetParam())).strResult, "E_FAIL");
+    // A file is read again for a key that is there, and for no other.
+    for (const long lKey : {3L, 4L})
+        EXPECT_EQ(KZCConvertInfo::instance()->ReloadCsvFile(lKey, strCsv), STATUS_OK);
+    EXPECT_GT(KZCConvertInfo::instance()->GetCsvFile(3)->GetRecordCount(), 0);
+    EXPECT_EQ(KZCConvertInfo::instance()->GetCsvFile(4)->GetRecordCount(), 0);
+}
+
 TEST_P(FamilyTest, RefusedElCheckDropsTheFileOfItsKey)
 {
     EXPECT_EQ(ElCheck(GetParam(), GoodCsv(GetParam()), 2).strResult, "S_OK");
@@ -447,10 +458,19 @@ INSTANTIATE_TEST_SUITE_P(Families,
                          testing::Values(Family::Finance, Family::CrossBorder),
                          Name);
 
-TEST_P(NewFamilyTest, HalfAPostalCodeIsNotStored)
+TEST_P(NewFamilyTest, FirstHalfOfAPostalCodeIsNotStored)
 {
     Filer filer = FilerOf(GetParam());
     filer.szZip2 = "";
+    EXPECT_EQ(ConvertOn(Path::El, GetParam(), filer).strResult, "E_FAIL");
+    EXPECT_EQ(Kept(KZCEkaITDataFinance_t::IT_ZIP1), "");
+    EXPECT_EQ(Kept(KZCEkaITDataFinance_t::IT_ZIP2), "");
+}
+
+TEST_P(NewFamilyTest, SecondHalfOfAPostalCodeIsNotStored)
+{
+    Filer filer = FilerOf(GetParam());
+    filer.szZip1 = "";
     EXPECT_EQ(ConvertOn(Path::El, GetParam(), filer).strResult, "E_FAIL");
     EXPECT_EQ(Kept(KZCEkaITDataFinance_t::IT_ZIP1), "");
     EXPECT_EQ(Kept(KZCEkaITDataFinance_t::IT_ZIP2), "");
@@ -703,6 +723,83 @@ TEST_F(RequestStepsTest, FaultOfTheClosingStepsIsLoggedAndLeavesTheErrorsAlone)
     static_cast<void>(ResultOfClosingFault(FINANCE_FAMILY, true));
     EXPECT_THAT(LogEntries(log), testing::ElementsAre(LogEntry{"function", UNEXPECTED_ERROR}));
     EXPECT_EQ(Detail(), "0001-00002-HE70001E");
+}
+
+TEST_F(RequestStepsTest, FailureOfTheClosingStepsShowsNothingOfAResultThatPasses)
+{
+    const auto recordOf = [](const FamilyTraits& traits, bool bTold) {
+        KZCConvertResultEka record;
+        RequestSteps::RunClosing(traits, "function", record, [&](const char*& szResult) {
+            record.SetProcId("PGE5030");
+            record.SetRecordCount("1");
+            record.SetMokData("<DATA/>");
+            if (bTold)
+                szResult = PROCESS_OK;
+            throw std::runtime_error("");
+        });
+        return Read(&record);
+    };
+    EXPECT_EQ(recordOf(BASE_FAMILY, false), Refused(""));
+    EXPECT_EQ(recordOf(CROSSBORDER_FAMILY, true), Refused(""));
+    EXPECT_EQ(recordOf(FINANCE_FAMILY, true), (Answer{"S_OK", "", "1", "PGE5030", "<DATA/>"}));
+}
+
+// ---- what is no request of a family ------------------------------------------------------------
+
+TEST_P(FamilyTest, WritingAFileLeavesStoreKeysAndModeOfAnyFamilyAlone)
+{
+    EXPECT_EQ(ElCheck(GetParam(), GoodCsv(GetParam()), 2).strResult, "S_OK");
+    for (const auto eMode : {KZCEkaCommon::EXEC_MODE_ZEKA, KZCEkaCommon::EXEC_MODE_OTHER}) {
+        KZCEkaCommon::setExecMode(eMode);
+        EXPECT_EQ(Write(m_folder.Path("out.csv").c_str(), "a").strResult, "S_OK");
+        EXPECT_EQ(Write("", "a"), Refused("0000-00000-HE70027E"));
+        EXPECT_EQ(Write(nullptr, "a"), Refused(FATAL_ERROR));
+        EXPECT_EQ(KZCEkaCommon::getExecMode(), eMode);
+    }
+    EXPECT_EQ(ElConvert(GetParam(), 2, FilerOf(GetParam())).strResult, "S_OK");
+}
+
+TEST_F(RequestStepsTest, WritingAFileMakesNoStore)
+{
+    EXPECT_EQ(Write(m_folder.Path("out.csv").c_str(), "a").strResult, "S_OK");
+    EXPECT_EQ(Write("", "a").strResult, "E_FAIL");
+    EXPECT_EQ(StorePeek::Kind(), StoreKind::None);
+}
+
+TEST_P(FamilyTest, TerminateLeavesTheModeAloneAndNoStoreBehind)
+{
+    for (const auto eMode : {KZCEkaCommon::EXEC_MODE_ZEKA, KZCEkaCommon::EXEC_MODE_OTHER}) {
+        EXPECT_EQ(ElCheck(GetParam(), GoodCsv(GetParam()), 2).strResult, "S_OK");
+        KZCEkaCommon::setExecMode(eMode);
+        m_entry.Terminate();
+        EXPECT_EQ(KZCEkaCommon::getExecMode(), eMode);
+        EXPECT_EQ(StorePeek::Kind(), StoreKind::None);
+    }
+}
+
+TEST_F(RequestStepsTest, TerminateEndsTheRecordBehindTheStores)
+{
+    KZCEkaCommon::SetCsvCheckFlag(true);
+    std::vector<std::string> vecStep;
+    RequestSteps::RunTerminate(
+        [&] {
+            EXPECT_FALSE(KZCEkaCommon::GetCsvCheckFlag());
+            vecStep.emplace_back("stores");
+        },
+        [&] { vecStep.emplace_back("record"); });
+    EXPECT_THAT(vecStep, testing::ElementsAre("stores", "record"));
+}
+
+TEST_F(RequestStepsTest, StoresThatCannotBeEndedLeaveTheRecordAndAreNotLogged)
+{
+    KZCEkaCommon::SetCsvCheckFlag(true);
+    const DebugLog log;
+    bool bEnded = false;
+    EXPECT_NO_THROW(
+        RequestSteps::RunTerminate([] { throw std::runtime_error(""); }, [&] { bEnded = true; }));
+    EXPECT_FALSE(bEnded);
+    EXPECT_FALSE(KZCEkaCommon::GetCsvCheckFlag());
+    EXPECT_EQ(log.Text(), "");
 }
 
 // ---- a failed beginning ------------------------------------------------------------------------

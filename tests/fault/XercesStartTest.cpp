@@ -5,8 +5,10 @@
 #include <cstddef>
 #include <cstdlib>
 
+#include "KZCCsvConvMokEka.h"
 #include "XercesGuards.h"
 #include "support/AllocationFault.h"
+#include "support/DebugLog.h"
 #include "support/FamilyDefinition.h"
 
 namespace {
@@ -53,6 +55,22 @@ TEST_F(XercesStartTest, RunningLibraryNeedsNoMemoryForAStart)
 {
     const XercesSession session;
     EXPECT_EQ(ResultOfCheck(1, Kind::FromThere, LARGE), REFUSED);
+}
+
+TEST_F(XercesStartTest, LogIsSwitchedOnBeforeTheStart)
+{
+    const DebugLog log;
+    KZCDebugDump::Reset();
+    AllocationFault::Arm(1, Kind::FromThere, LARGE);
+    bool bThrown = false;
+    try {
+        const KZCCsvConvMokEka entry;
+    } catch (...) {
+        bThrown = true;
+    }
+    AllocationFault::Disarm();
+    EXPECT_TRUE(bThrown);
+    EXPECT_TRUE(KZCDebugDump::IsOn());
 }
 
 class XercesBrokenStartTest : public XercesStartTest,

@@ -221,6 +221,10 @@ protected:
     {
         return m_requests.ElConvert(eFamily, lKey, filer);
     }
+    Answer Write(const char* szPath, const char* szData)
+    {
+        return m_requests.Write(szPath, szData);
+    }
 
     /// Called when a request has come back, before its record is read.
     static inline void (*m_pBehindRequest)() = nullptr;
