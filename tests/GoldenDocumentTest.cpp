@@ -223,17 +223,18 @@ TEST_P(GoldenDocumentTest, ElPathGivesTheExpectedBytes)
 }
 
 constexpr GoldenCase CASES[] = {
-    {BASE, "PGE5010_sample"},    {BASE, "PGE5020_sample"},        {BASE, "PGE5030_sample"},
-    {BASE, "PGE5040_sample"},    {BASE, "PGE5050_sample"},        {BASE, "PGE5060_sample"},
-    {BASE, "PGE5070_sample"},    {BASE, "PGE5080_sample"},        {BASE, "PGE5090_sample"},
-    {FINANCE, "PGE1630_sample"}, {FINANCE, "PGE1640_full"},       {FINANCE, "PGE1640_sample"},
-    {FINANCE, "PGE1640_short"},  {FINANCE, "PGE2015_sample"},     {FINANCE, "PGE2025_sample"},
-    {FINANCE, "PGE2030_sample"}, {FINANCE, "PGE2040_sample"},     {FINANCE, "PGE2055_sample"},
-    {FINANCE, "PGE2065_sample"}, {FINANCE, "PGE2070_sample"},     {FINANCE, "PGE2080_sample"},
-    {FINANCE, "PGE2095_sample"}, {FINANCE, "PGE2105_sample"},     {FINANCE, "PGE2115_full"},
-    {FINANCE, "PGE2115_sample"}, {FINANCE, "PGE2115_short"},      {FINANCE, "PGE2125_sample"},
-    {FINANCE, "PGE2135_sample"}, {FINANCE, "PGE2140_sample"},     {FINANCE, "PGE2150_sample"},
-    {FINANCE, "PGE2160_sample"}, {CROSSBORDER, "PGE1650_sample"}, {CROSSBORDER, "PGE1660_sample"},
+    {BASE, "PGE5010_one_record"},    {BASE, "PGE5010_sample"},    {BASE, "PGE5020_sample"},
+    {BASE, "PGE5030_sample"},        {BASE, "PGE5040_sample"},    {BASE, "PGE5050_sample"},
+    {BASE, "PGE5060_sample"},        {BASE, "PGE5070_sample"},    {BASE, "PGE5080_sample"},
+    {BASE, "PGE5090_sample"},        {FINANCE, "PGE1630_sample"}, {FINANCE, "PGE1640_full"},
+    {FINANCE, "PGE1640_sample"},     {FINANCE, "PGE1640_short"},  {FINANCE, "PGE2015_sample"},
+    {FINANCE, "PGE2025_sample"},     {FINANCE, "PGE2030_sample"}, {FINANCE, "PGE2040_sample"},
+    {FINANCE, "PGE2055_sample"},     {FINANCE, "PGE2065_sample"}, {FINANCE, "PGE2070_sample"},
+    {FINANCE, "PGE2080_sample"},     {FINANCE, "PGE2095_sample"}, {FINANCE, "PGE2105_sample"},
+    {FINANCE, "PGE2115_full"},       {FINANCE, "PGE2115_sample"}, {FINANCE, "PGE2115_short"},
+    {FINANCE, "PGE2125_sample"},     {FINANCE, "PGE2135_sample"}, {FINANCE, "PGE2140_sample"},
+    {FINANCE, "PGE2150_sample"},     {FINANCE, "PGE2160_sample"}, {CROSSBORDER, "PGE1650_sample"},
+    {CROSSBORDER, "PGE1660_sample"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases,
