@@ -143,7 +143,10 @@ extern "C"
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvCheckFinance(
         const char* szCsvPathName, int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
-    /// As KZEkaMok_ELCsvConvMok, with the arguments of KZEkaMok_CsvConvMokFinance.
+    /// As KZEkaMok_ELCsvConvMok, with the arguments of KZEkaMok_CsvConvMokFinance. Errors of a
+    /// pair of arguments name the numbers that they have there, one higher than here: 5 and 6 if both
+    /// szKojinBango and szHojinBango are given, 19 for a missing szNozeishaZip1, 20 for a missing
+    /// szNozeishaZip2.
     /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvConvMokFinance(int64_t lCsvDistKey,
                                                                  const char* szZeimushoCD,
@@ -167,8 +170,9 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_CsvCheck, for the CrossBorder family, whose values may stand in double quotes
-    /// and whose equal errors are told once. After a fault here and in
-    /// KZEkaMok_CsvConvMokCrossBorder DetailErrorInfo stays empty.
+    /// and whose equal errors are told once. A fault of one of its steps is told as in the other
+    /// families, by "0000-00000-HE70018E"; one between the steps (memory that runs out, above all) here
+    /// and in KZEkaMok_CsvConvMokCrossBorder leaves "E_FAIL" with an empty DetailErrorInfo.
     /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvCheckCrossBorder(const char* szCsvPathName)
         KZEKAMOK_NOEXCEPT;
@@ -243,7 +247,8 @@ extern "C"
         KZEKAMOK_NOEXCEPT;
     /// On failure the detail table: entries "record-column-code" joined by commas, such as
     /// "0003-00012-HE70001E". Record 0 is the file as a whole, record 9999 an argument of the call
-    /// (the column is its number), a range of columns reads "14:17".
+    /// (the column is its number from 1; KZEkaMok_ELCsvConvMokFinance has exceptions), a range of
+    /// columns reads "14:17".
     KZEKAMOK_EXPORT const char* KZEkaMokResult_DetailErrorInfo(const KZEkaMokResult* pResult)
         KZEKAMOK_NOEXCEPT;
     /// Records of the CSV in decimal digits; set by the EL checks.

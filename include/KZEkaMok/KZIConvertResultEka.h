@@ -28,7 +28,8 @@ public:
     const std::string& GetResult() const;
     /// On failure the detail table: entries "record-column-code" joined by commas, such as
     /// "0003-00012-HE70001E". Record 0 is the file as a whole, record 9999 an argument of the call
-    /// (the column is its number), a range of columns reads "14:17".
+    /// (the column is its number from 1; ELCsvConvMokFinance has exceptions), a range of columns
+    /// reads "14:17".
     const std::string& GetDetailErrorInfo() const;
     /// Records of the CSV in decimal digits; set by the EL checks.
     const std::string& GetRecordCount() const;

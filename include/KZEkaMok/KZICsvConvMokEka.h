@@ -127,7 +127,9 @@ public:
     std::shared_ptr<KZIConvertResultEka> ELCsvCheckFinance(const char* szCsvPathName,
                                                            std::int64_t lCsvDistKey);
 
-    /// As ELCsvConvMok, with the arguments of CsvConvMokFinance.
+    /// As ELCsvConvMok, with the arguments of CsvConvMokFinance. Errors of a pair of arguments name
+    /// the numbers that they have there, one higher than here: 5 and 6 if both szKojinBango and
+    /// szHojinBango are given, 19 for a missing szNozeishaZip1, 20 for a missing szNozeishaZip2.
     /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> ELCsvConvMokFinance(std::int64_t lCsvDistKey,
                                                              const char* szZeimushoCD,
@@ -149,8 +151,10 @@ public:
                                                              const char* szNozeishaZip1,
                                                              const char* szNozeishaZip2);
 
-    /// The same for the CrossBorder family, whose values may stand in double quotes. After a fault
-    /// in CsvCheckCrossBorder and CsvConvMokCrossBorder DetailErrorInfo stays empty.
+    /// The same for the CrossBorder family, whose values may stand in double quotes. A fault of one
+    /// of its steps is told as in the other families, by "0000-00000-HE70018E"; one between the steps
+    /// (memory that runs out, above all) of CsvCheckCrossBorder and CsvConvMokCrossBorder leaves
+    /// "E_FAIL" with an empty DetailErrorInfo.
     /// Never two requests at once: on two threads they crash.
     std::shared_ptr<KZIConvertResultEka> CsvCheckCrossBorder(const char* szCsvPathName);
 

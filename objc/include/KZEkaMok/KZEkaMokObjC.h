@@ -34,7 +34,8 @@
 @property (nonatomic, copy) NSString* Result;
 /// On failure the detail table: entries "record-column-code" joined by commas, such as
 /// "0003-00012-HE70001E". Record 0 is the file as a whole, record 9999 an argument of the call (the
-/// column is its number), a range of columns reads "14:17".
+/// column is its number from 1; ELCsvConvMokFinance: has exceptions), a range of columns reads
+/// "14:17".
 @property (nonatomic, copy) NSString* DetailErrorInfo;
 /// Records of the CSV in decimal digits; set by the EL checks.
 @property (nonatomic, copy) NSString* RecordCount;
@@ -163,7 +164,9 @@
 /// \param lCsvDistKey  1 to 16.
 - (KZIConvertResultEka*)ELCsvCheckFinance:(NSString*)szCsvPathName csvDistKey:(int64_t)lCsvDistKey;
 
-/// As ELCsvConvMok:, with the arguments of CsvConvMokFinance:.
+/// As ELCsvConvMok:, with the arguments of CsvConvMokFinance:. Errors of a pair of arguments name the
+/// numbers that they have there, one higher than here: 5 and 6 if both the personal and the corporate
+/// number are given, 19 for a missing nozeishaZip1, 20 for a missing nozeishaZip2.
 /// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)ELCsvConvMokFinance:(int64_t)lCsvDistKey
                                  zeimushoCD:(NSString*)szZeimushoCD
@@ -186,8 +189,9 @@
                                nozeishaZip2:(NSString*)szNozeishaZip2;
 
 /// As CsvCheck:, for the CrossBorder family, whose values may stand in double quotes and whose
-/// equal errors are told once. After a fault here and in CsvConvMokCrossBorder: DetailErrorInfo
-/// stays empty.
+/// equal errors are told once. A fault of one of its steps is told as in the other families, by
+/// "0000-00000-HE70018E"; one between the steps (memory that runs out, above all) here and in
+/// CsvConvMokCrossBorder: leaves "E_FAIL" with an empty DetailErrorInfo.
 /// Never two requests at once: on two threads they crash.
 - (KZIConvertResultEka*)CsvCheckCrossBorder:(NSString*)szCsvPathName;
 
