@@ -491,6 +491,124 @@ CASE(AnExceptionWhileCopyingKeepsTheFieldsCopiedBefore)
     EXPECT_TEXT([pResult Result], nil);
 }
 
+static NSMutableArray* listSetter;
+
+static void NoteSetter(id pSelf, SEL pSelector, NSString* strText)
+{
+    (void)pSelf;
+    (void)strText;
+    [listSetter addObject:NSStringFromSelector(pSelector)];
+}
+
+/* The setters of a result that a request calls, in order, without those of its beginning. */
+static NSString* SettersOf(KZIConvertResultEka* (*pRequest)(KZICsvConvMokEka* pConverter))
+{
+    SEL const SETTERS[] = {@selector(setResult:), @selector(setDetailErrorInfo:),
+                           @selector(setRecordCount:), @selector(setProcId:),
+                           @selector(setMokData:)};
+    enum
+    {
+        COUNT = sizeof SETTERS / sizeof *SETTERS
+    };
+    IMP listBefore[COUNT];
+    KZICsvConvMokEka* pConverter = Converter();
+    listSetter = [NSMutableArray array];
+    for (int n = 0; n < COUNT; ++n)
+        listBefore[n] = Exchange([KZIConvertResultEka class], SETTERS[n],
+                                 (IMP)(void (*)(void))NoteSetter);
+    pRequest(pConverter);
+    for (int n = 0; n < COUNT; ++n)
+        Exchange([KZIConvertResultEka class], SETTERS[n], listBefore[n]);
+    // The five fields are made empty first.
+    [listSetter removeObjectsInRange:NSMakeRange(0, COUNT)];
+    return [listSetter componentsJoinedByString:@" "];
+}
+
+static KZIConvertResultEka* RequestCheck(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter CsvCheck:nil];
+}
+
+static KZIConvertResultEka* RequestCheckFinance(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter CsvCheckFinance:nil];
+}
+
+static KZIConvertResultEka* RequestCheckCrossBorder(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter CsvCheckCrossBorder:nil];
+}
+
+static KZIConvertResultEka* RequestElCheck(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter ELCsvCheck:nil Param01:1];
+}
+
+static KZIConvertResultEka* RequestElCheckFinance(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter ELCsvCheckFinance:nil csvDistKey:1];
+}
+
+static KZIConvertResultEka* RequestElCheckCrossBorder(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter ELCsvCheckCrossBorder:nil csvDistKey:1];
+}
+
+static KZIConvertResultEka* RequestWrite(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter CsvWrite:nil Param01:nil];
+}
+
+static KZIConvertResultEka* RequestConvert(KZICsvConvMokEka* pConverter)
+{
+    return [pConverter CsvConvMok:nil
+                          Param01:nil
+                          Param02:nil
+                          Param03:nil
+                          Param04:nil
+                          Param05:nil
+                          Param06:nil
+                          Param07:nil
+                          Param08:nil
+                          Param09:nil
+                          Param10:nil
+                          Param11:nil
+                          Param12:nil
+                          Param13:nil];
+}
+
+static KZIConvertResultEka* RequestElConvert(KZICsvConvMokEka* pConverter)
+{
+    return ConvertKept(pConverter, nil);
+}
+
+CASE(AChecksFieldsAreCopiedInTheirOrder)
+{
+    NSString* const strOrder = @"setProcId: setResult: setDetailErrorInfo:";
+    EXPECT_TEXT(SettersOf(RequestCheck), strOrder);
+    EXPECT_TEXT(SettersOf(RequestCheckFinance), strOrder);
+    EXPECT_TEXT(SettersOf(RequestCheckCrossBorder), strOrder);
+}
+
+CASE(AnElChecksFieldsAreCopiedInTheirOrder)
+{
+    NSString* const strOrder = @"setProcId: setRecordCount: setResult: setDetailErrorInfo:";
+    EXPECT_TEXT(SettersOf(RequestElCheck), strOrder);
+    EXPECT_TEXT(SettersOf(RequestElCheckFinance), strOrder);
+    EXPECT_TEXT(SettersOf(RequestElCheckCrossBorder), strOrder);
+}
+
+CASE(AConversionsFieldsAreCopiedInTheirOrder)
+{
+    EXPECT_TEXT(SettersOf(RequestConvert), @"setResult: setDetailErrorInfo:");
+    EXPECT_TEXT(SettersOf(RequestWrite), @"setResult: setDetailErrorInfo:");
+}
+
+CASE(AnElConversionsFieldsAreCopiedInTheirOrder)
+{
+    EXPECT_TEXT(SettersOf(RequestElConvert), @"setResult: setDetailErrorInfo: setMokData:");
+}
+
 static id GiveNil(id pSelf, SEL pSelector)
 {
     (void)pSelector;
