@@ -1,11 +1,14 @@
 #include "ApiFixture.h"
 
+#include <fcntl.h>
 #include <iconv.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <cstdarg>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -20,6 +23,10 @@ namespace {
 
 constexpr const char* BUNDLE_VARIABLE = "KZEKAMOK_BUNDLE";
 constexpr std::size_t SHOWN_LENGTH = 400;  // bytes of a field that a failure message shows
+
+/// A file whose name goes before it is opened for the second time, and how often it has been.
+std::string g_strVanishing;
+int g_nOpenings = 0;
 
 const char* Pointer(const std::optional<std::string>& strValue)
 {
@@ -61,6 +68,22 @@ std::string ReadToEnd(int nDescriptor)
 }
 
 }  // namespace
+
+// What the library opens goes through here, as a program's own function stands before that of the C
+// library.
+extern "C" [[gnu::visibility("default")]] int open(const char* szPath, int nFlags, ...)
+{
+    mode_t nMode = 0;
+    if ((nFlags & O_CREAT) != 0) {
+        va_list arguments;
+        va_start(arguments, nFlags);
+        nMode = va_arg(arguments, mode_t);
+        va_end(arguments);
+    }
+    if (!g_strVanishing.empty() && g_strVanishing == szPath && ++g_nOpenings == 2)
+        unlink(szPath);
+    return static_cast<int>(syscall(SYS_openat, AT_FDCWD, szPath, nFlags, nMode));
+}
 
 std::string ToShiftJis(const std::string& strUtf8)
 {
@@ -340,6 +363,16 @@ Outcome OutcomeInChild(const std::function<Outcome()>& work)
     }
     vecField.resize(5);
     return {vecField[0], vecField[1], vecField[2], vecField[3], vecField[4]};
+}
+
+void RunWithVanishingFile(const std::string& strPath, const std::function<void()>& request)
+{
+    g_strVanishing = strPath;
+    g_nOpenings = 0;
+    request();
+    g_strVanishing.clear();
+    EXPECT_EQ(g_nOpenings, 2) << "openings of " << strPath;
+    EXPECT_FALSE(Exists(strPath));
 }
 
 ApiTest::ApiTest()

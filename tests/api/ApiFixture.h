@@ -132,6 +132,10 @@ void Terminate();
 std::string RunInChild(const std::function<std::string()>& work);
 Outcome OutcomeInChild(const std::function<Outcome()>& work);
 
+/// Runs the request with a file whose name goes before it is opened for the second time; fails the
+/// test if that doesn't happen.
+void RunWithVanishingFile(const std::string& strPath, const std::function<void()>& request);
+
 // --- fixture ---
 
 /// A folder, a good resource folder that the library is told to use, and one good file of each

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 
 #include <filesystem>
+#include <sstream>
 #include <string>
 
 #include "ApiFixture.h"
@@ -45,6 +46,36 @@ TEST_F(CsvWriteTest, ExistingLongerFileIsReplaced)
     WriteBytes(m_strTarget, std::string(1000, 'x'));
     ASSERT_EQ(Write(m_strTarget.c_str(), "short"), Done());
     EXPECT_EQ(ReadBytes(m_strTarget), "short");
+}
+
+/// The rights of a file in octal digits.
+std::string RightsOf(const std::string& strPath)
+{
+    struct stat attributes = {};
+    if (stat(strPath.c_str(), &attributes) != 0)
+        return "none";
+    std::ostringstream rights;
+    rights << std::oct << (attributes.st_mode & 0777U);
+    return rights.str();
+}
+
+TEST_F(CsvWriteTest, NewFileHasTheRightsThatTheProcessGivesItsFiles)
+{
+    const mode_t before = umask(0);
+    EXPECT_EQ(Write(m_strTarget.c_str(), "x"), Done());
+    EXPECT_EQ(RightsOf(m_strTarget), "666");
+    umask(027);
+    EXPECT_EQ(Write(File("other.csv").c_str(), "x"), Done());
+    EXPECT_EQ(RightsOf(File("other.csv")), "640");
+    umask(before);
+}
+
+TEST_F(CsvWriteTest, ExistingFileKeepsItsRights)
+{
+    WriteBytes(m_strTarget, "before");
+    ASSERT_EQ(chmod(m_strTarget.c_str(), 0600), 0);
+    EXPECT_EQ(Write(m_strTarget.c_str(), "x"), Done());
+    EXPECT_EQ(RightsOf(m_strTarget), "600");
 }
 
 TEST_F(CsvWriteTest, EmptyTextMakesAnEmptyFile)

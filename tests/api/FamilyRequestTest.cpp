@@ -543,6 +543,28 @@ TEST_F(FamilyTest, NumbersOfADocumentDoNotRunOnIntoTheNextFamilys)
     }
 }
 
+TEST_F(FamilyTest, FinanceFileThatVanishesBeforeItsReReadingFailsTheElCheckAndDropsTheKey)
+{
+    const std::string strCsv = GoodCsv(FINANCE_FORMS);
+    Outcome outcome;
+    RunWithVanishingFile(strCsv, [&] { outcome = ElCheck(Family::FINANCE, strCsv, 1); });
+    EXPECT_EQ(outcome, Failed("0000-00000-HE70018E"));
+    EXPECT_EQ(ElConvert(Family::FINANCE, 1, Arguments(FINANCE_FORMS, "")),
+              Failed("9999-00001-HE70013E"));
+}
+
+TEST_F(FamilyTest, CrossBorderFileThatVanishesBeforeItsReReadingPassesAndHasNothingToConvert)
+{
+    const std::string strCsv = GoodCsv(CROSSBORDER_FORMS);
+    Outcome outcome;
+    RunWithVanishingFile(strCsv, [&] { outcome = ElCheck(Family::CROSSBORDER, strCsv, 1); });
+    EXPECT_EQ(outcome, ElCheckPassed(CROSSBORDER_FORMS.szProcId, "1"));
+    // The fault was recorded all the same; the next who renders the errors tells it.
+    EXPECT_EQ(Write("", "x"), Failed("0000-00000-HE70018E,0000-00000-HE70027E"));
+    EXPECT_EQ(ElConvert(Family::CROSSBORDER, 1, Arguments(CROSSBORDER_FORMS, "")),
+              Failed("9999-00001-HE70013E"));
+}
+
 TEST_F(FamilyTest, FileOfAnotherFamilyIsRefused)
 {
     const std::string strCsv = GoodCsv(FINANCE_FORMS);

@@ -1,10 +1,4 @@
 // What the operations give back, what lives between calls, and the documents they make.
-#include <fcntl.h>
-#include <poll.h>
-#include <signal.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <string>
@@ -554,38 +548,8 @@ TEST_F(KZICsvConvMokEkaTest, ReReadingThatIsRefusedIsNotLookedAt)
 
 TEST_F(KZICsvConvMokEkaTest, FileThatVanishesBeforeItsReReadingFailsTheElCheckAndDropsTheKey)
 {
-    // A child holds a lease on the file, so that the library's first open waits for it; the child
-    // removes the name and lets go. The first reading has the file then, the second finds nothing.
-    std::array<int, 2> ready;
-    ASSERT_EQ(pipe(ready.data()), 0);
-    const pid_t nChild = fork();
-    ASSERT_GE(nChild, 0);
-    if (nChild == 0) {
-        sigset_t signals;
-        sigemptyset(&signals);
-        sigaddset(&signals, SIGIO);
-        sigprocmask(SIG_BLOCK, &signals, nullptr);
-        const int nFile = open(m_strCsv.c_str(), O_RDWR);
-        const bool bLeased = fcntl(nFile, F_SETLEASE, F_WRLCK) == 0;
-        const char cReady = bLeased ? 'y' : 'n';
-        if (write(ready[1], &cReady, 1) != 1 || !bLeased)
-            _exit(1);
-        const timespec timeout = {60, 0};
-        const int nSignal = sigtimedwait(&signals, nullptr, &timeout);
-        unlink(m_strCsv.c_str());
-        fcntl(nFile, F_SETLEASE, F_UNLCK);
-        _exit(nSignal == SIGIO ? 0 : 1);
-    }
-    char cReady = 'n';
-    const ssize_t nRead = read(ready[0], &cReady, 1);
-    close(ready[0]);
-    close(ready[1]);
-    const Outcome outcome = nRead == 1 && cReady == 'y' ? ElCheck(m_strCsv, 1) : Outcome();
-    int nStatus = 0;
-    waitpid(nChild, &nStatus, 0);
-    if (cReady != 'y')
-        GTEST_SKIP() << "the file system has no leases";
-    ASSERT_EQ(nStatus, 0);
+    Outcome outcome;
+    RunWithVanishingFile(m_strCsv, [&] { outcome = ElCheck(m_strCsv, 1); });
     EXPECT_EQ(outcome, Failed("0000-00000-HE70018E"));
     EXPECT_EQ(ElConvert(1, m_arguments), Failed("9999-00001-HE70013E"));
 }
