@@ -171,7 +171,7 @@ void CheckPlain(const OperationTexts& texts, KZCConvertResultEka& record, const 
         return true;
     };
     const Outcome eOutcome = RunBody(texts.szFunction, check, [] {
-        if (!TRAITS.bHidesPlainFault)
+        if (!Family::TRAITS.bHidesPlainFault)
             KZCEkaCommon::SetCsvCheckFlag(false);
     });
     const bool bHidden = eOutcome == Outcome::Fault && TRAITS.bHidesPlainFault;

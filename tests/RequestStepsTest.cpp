@@ -492,6 +492,17 @@ TEST_P(NewFamilyTest, TwoNumbersAreNotStored)
     EXPECT_EQ(Kept(KZCEkaITDataFinance_t::IT_HOJINBANGO), "");
 }
 
+TEST_F(RequestStepsTest, TwoNumbersAreNotStoredInTheBaseFamilyEither)
+{
+    Filer filer = FilerOf(Family::Base);
+    filer.szHojinBango = "1234567890123";
+    EXPECT_EQ(ConvertOn(Path::El, Family::Base, filer).strResult, "E_FAIL");
+    const KZCEkaITData& it = *KZCConvertInfo::instance()->GetITData(2);
+    EXPECT_STREQ(it.GetITData(IT_KOJINBANGO), "");
+    EXPECT_STREQ(it.GetITData(IT_HOJINBANGO), "");
+    EXPECT_STREQ(it.GetITData(IT_NOZEISHA_NM), "青葉商会");
+}
+
 TEST_P(NewFamilyTest, EveryFieldReachesItsPlaceInTheDocument)
 {
     const std::string strMok = ConvertOn(Path::El, GetParam(), FilerOf(GetParam())).strMok;
