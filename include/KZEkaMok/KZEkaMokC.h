@@ -144,10 +144,9 @@ extern "C"
         const char* szCsvPathName, int64_t lCsvDistKey) KZEKAMOK_NOEXCEPT;
 
     /// As KZEkaMok_ELCsvConvMok, with the arguments of KZEkaMok_CsvConvMokFinance. Errors of a
-    /// pair of arguments name the numbers that they have there, one higher than here: 5 and 6 if both
-    /// szKojinBango and szHojinBango are given, 19 for a missing szNozeishaZip1, 20 for a missing
-    /// szNozeishaZip2.
-    /// Never two requests at once: on two threads they crash.
+    /// pair of arguments name the numbers that they have there, one higher than here: 5 and 6 if
+    /// both szKojinBango and szHojinBango are given, 19 for a missing szNozeishaZip1, 20 for a
+    /// missing szNozeishaZip2. Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_ELCsvConvMokFinance(int64_t lCsvDistKey,
                                                                  const char* szZeimushoCD,
                                                                  const char* szNozeishaId,
@@ -171,8 +170,8 @@ extern "C"
 
     /// As KZEkaMok_CsvCheck, for the CrossBorder family, whose values may stand in double quotes
     /// and whose equal errors are told once. A fault of one of its steps is told as in the other
-    /// families, by "0000-00000-HE70018E"; one between the steps (memory that runs out, above all) here
-    /// and in KZEkaMok_CsvConvMokCrossBorder leaves "E_FAIL" with an empty DetailErrorInfo.
+    /// families, by "0000-00000-HE70018E"; one between the steps (memory that runs out, above all)
+    /// here and in KZEkaMok_CsvConvMokCrossBorder leaves "E_FAIL" with an empty DetailErrorInfo.
     /// Never two requests at once: on two threads they crash.
     KZEKAMOK_EXPORT KZEkaMokResult* KZEkaMok_CsvCheckCrossBorder(const char* szCsvPathName)
         KZEKAMOK_NOEXCEPT;

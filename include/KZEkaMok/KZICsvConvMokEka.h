@@ -152,10 +152,10 @@ public:
                                                              const char* szNozeishaZip2);
 
     /// The same for the CrossBorder family, whose values may stand in double quotes. A fault of one
-    /// of its steps is told as in the other families, by "0000-00000-HE70018E"; one between the steps
-    /// (memory that runs out, above all) of CsvCheckCrossBorder and CsvConvMokCrossBorder leaves
-    /// "E_FAIL" with an empty DetailErrorInfo.
-    /// Never two requests at once: on two threads they crash.
+    /// of its steps is told as in the other families, by "0000-00000-HE70018E"; one between the
+    /// steps (memory that runs out, above all) of CsvCheckCrossBorder and CsvConvMokCrossBorder
+    /// leaves "E_FAIL" with an empty DetailErrorInfo. Never two requests at once: on two threads
+    /// they crash.
     std::shared_ptr<KZIConvertResultEka> CsvCheckCrossBorder(const char* szCsvPathName);
 
     /// As CsvConvMokFinance, with the arguments in another order.
