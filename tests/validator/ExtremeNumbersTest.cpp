@@ -215,11 +215,19 @@ TEST_F(ExtremeErrorPlaceTest, ErrRowIsToldByItsLowBits)
 
 TEST_F(ExtremeErrorPlaceTest, TheRecordWrapsAround)
 {
-    EXPECT_EQ(OnRecord(*MakeItem({"exist"}, CASE_COLUMN), m_csv, HIGHEST),
-              "refuses 0000-00002-HE70001E");
-    EXPECT_EQ(OnRecord(*MakeItem({"existdate"}, CASE_COLUMN), m_csv, HIGHEST),
-              "refuses 0000-02:05-HE70012E");
-    EXPECT_EQ(OnRecord(*MakeItem({"nonerr", "1"}, CASE_COLUMN), m_csv, HIGHEST), PASSES);
+    const auto told = [&](const ItemText& text) {
+        return OnRecord(*MakeItem(text, CASE_COLUMN), m_csv, HIGHEST);
+    };
+    EXPECT_EQ(told({"exist"}), "refuses 0000-00002-HE70001E");
+    EXPECT_EQ(told({"exceptcolumn", "3"}), "refuses 0000-00002-HE70010E");
+    EXPECT_EQ(told({"exist_2"}), "refuses 0000-00002-HE70012E");
+    EXPECT_EQ(told({"existdate"}), "refuses 0000-02:05-HE70012E");
+    EXPECT_EQ(told({"containyear", "2017"}), "refuses 0000-02:03-HE70025E");
+    EXPECT_EQ(told({"rangebasedate", "", "6"}), "refuses 0000-02:05-HE70012E");
+    EXPECT_EQ(told({"rangebasedate", "1"}), "refuses 0000-02:05-HE70025E");
+    EXPECT_EQ(told({"rangebasedate_2", "", "6"}), "refuses 0000-02:05-HE70025E");
+    EXPECT_EQ(told({"age", "2 6 1 9 1"}), "refuses 0000-00002-HE70010E");
+    EXPECT_EQ(told({"nonerr", "1"}), PASSES);
 }
 
 // --- the readers ---
