@@ -367,29 +367,45 @@ TEST_F(ItemLogFixture, Rangedate_4WritesNothingForAnEmptyText)
 
 // --- errcolumn ---
 
-class ErrColumnTraceTest : public ItemLogFixture, public testing::WithParamInterface<ItemText>
+struct ErrColumnCase
+{
+    const char* szName;
+    ItemText text;
+    std::string strRule;
+    const char* szValue;
+};
+
+void PrintTo(const ErrColumnCase& testCase, std::ostream* pStream)
+{
+    *pStream << testCase.szName;
+}
+
+class ErrColumnTraceTest : public ItemLogFixture, public testing::WithParamInterface<ErrColumnCase>
 {};
 
 TEST_P(ErrColumnTraceTest, NamesTheFirstColumnOfTheRecord)
 {
     const TableCsv csv{DAY};
-    const auto pItem = MakeItem(GetParam(), CASE_COLUMN);
+    const auto pItem = MakeItem(GetParam().text, CASE_COLUMN);
     pItem->SetErrColumn("12");
     const DebugLog log;
     EXPECT_EQ(OnRecord(*pItem, csv), "refuses 0001-12:15-HE70025E");
-    EXPECT_TRUE(log.HasLine(
-        "record=0001 column=00012 value=" +
-        std::string(std::string_view(GetParam().szId) == "containyear" ? "平成30" : "2018/ 9/ 1")))
-        << log.Text();
+    EXPECT_EQ(WholeLog(log), GetParam().strRule + Traced(M25, "00012", GetParam().szValue));
 }
 
-constexpr ItemText WITH_ERR_COLUMN[] = {
-    {"containyear", "2017"},
-    {"rangebasedate", "1_2", "2019/01/01"},
-    {"rangebasedate_2", "", "2"},
+const ErrColumnCase WITH_ERR_COLUMN[] = {
+    {"ContainYear", {"containyear", "2017"}, "", "平成30"},
+    {"Rangebasedate", {"rangebasedate", "1_2", "2019/01/01"}, OUT_OF_RANGE, "2018/ 9/ 1"},
+    {"Rangebasedate_2",
+     {"rangebasedate_2", "", "2"},
+     Rule("Rangebasedate_2", "szValueの値が範囲外です。\n"),
+     "2018/ 9/ 1"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Keywords, ErrColumnTraceTest, testing::ValuesIn(WITH_ERR_COLUMN));
+INSTANTIATE_TEST_SUITE_P(Keywords,
+                         ErrColumnTraceTest,
+                         testing::ValuesIn(WITH_ERR_COLUMN),
+                         CaseName());
 
 TEST_F(ItemLogFixture, ErrRowIsTracedInPlaceOfTheRecord)
 {
