@@ -98,7 +98,8 @@ void BoundedXmlParser::CountAttributes(const xercesc::RefVectorOf<xercesc::XMLAt
         if (!attribute.getSpecified())
             CountAddedAttributes(1);
         CountSize(View(attribute.getValue()).size());
-        m_setAttributeNames.emplace(strName);
+        if (!m_setAttributeNames.contains(strName))
+            m_setAttributeNames.emplace(strName);
     }
     Refuse(m_setAttributeNames.size() > XmlLimits::NAMES);
 }
@@ -173,7 +174,8 @@ void BoundedXmlParser::endAttList(const xercesc::DTDElementDecl& elemDecl)
 void BoundedXmlParser::CountAddedAttributes(std::size_t nCount)
 {
     m_nAddedAttributes += nCount;
-    Refuse(m_nAddedAttributes > XmlLimits::ADDED_ATTRIBUTES);
+    Refuse(m_nAddedAttributes >
+           XmlLimits::ADDED_ATTRIBUTES + m_nSourceSize / XmlLimits::BYTES_PER_ADDED_ATTRIBUTE);
 }
 
 void BoundedXmlParser::entityDecl(const xercesc::DTDEntityDecl& entityDecl,

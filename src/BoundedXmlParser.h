@@ -4,7 +4,9 @@
 #include <xercesc/parsers/XercesDOMParser.hpp>
 
 #include <cstddef>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <unordered_set>
 #include <vector>
 
@@ -50,6 +52,16 @@ public:
     void notationDecl(const xercesc::XMLNotationDecl& notDecl, bool isIgnored) override;
 
 private:
+    /// Finds a name without making a text of it.
+    struct NameHash
+    {
+        using is_transparent = void;
+        std::size_t operator()(std::u16string_view strName) const
+        {
+            return std::hash<std::u16string_view>()(strName);
+        }
+    };
+
     void CountDeclaration();
     void CheckGrammarSize() const;
     void CountAddedAttributes(std::size_t nCount);
@@ -61,7 +73,7 @@ private:
     std::size_t m_nSourceSize = 0;
     std::vector<std::size_t> m_vecNamespaces;  ///< declared by each open element
     std::size_t m_nOpenNamespaces = 0;         ///< their sum
-    std::unordered_set<std::u16string> m_setAttributeNames;
+    std::unordered_set<std::u16string, NameHash, std::equal_to<>> m_setAttributeNames;
     std::size_t m_nDeclarations = 0;
     std::size_t m_nDeclaredAttributes = 0;
     std::size_t m_nAddedAttributes = 0;

@@ -25,8 +25,10 @@ inline constexpr std::size_t DECLARATIONS = 10000;
 /// Attributes declared for an element, summed up over the document's elements: each time all are
 /// looked through for the ones that are missing.
 inline constexpr std::size_t DECLARED_ATTRIBUTES = 10000000;
-/// Attributes that the grammar adds to the elements of a document.
-inline constexpr std::size_t ADDED_ATTRIBUTES = 100000;
+/// Attributes that the grammar adds to the elements of a document: so many, and one for each so many
+/// bytes of it.
+inline constexpr std::size_t ADDED_ATTRIBUTES = 10000;
+inline constexpr std::size_t BYTES_PER_ADDED_ATTRIBUTE = 10;
 /// References to entities, those inside entities included.
 inline constexpr std::size_t ENTITY_REFERENCES = 10000;
 /// Characters of an entity without markup: any number of references to it may stand in one

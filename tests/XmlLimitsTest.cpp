@@ -134,12 +134,15 @@ const LimitCase LIMIT_CASES[] = {
          return "<!DOCTYPE a [<!ENTITY % p '" + Repeat("<!ENTITY e \"\">", 1110) + "'>" +
                 Repeat("%p;", 9) + Repeat("<!ENTITY e ''>", nSize - 9991) + "]><a/>";
      }},
-    {"AddedAttributes", 100000,
+    {"AddedAttributesOfADocumentOf100000Bytes", 20000,
      [](std::size_t nSize) {
-         // 100 come with the list itself.
-         return "<!DOCTYPE r [<!ATTLIST a" + Numbered(" d~ CDATA ''", 100) +
-                "><!ATTLIST b d CDATA ''>]><r>" + Repeat("<a/>", 998) +
-                Repeat("<b/>", nSize - 99901) + "</r>";
+         // One more for each ten bytes than 10,000. 101 come with the two lists themselves.
+         std::string strText = "<!DOCTYPE r [<!ATTLIST a" + Numbered(" d~ CDATA ''", 100) +
+                               "><!ATTLIST b d CDATA ''>]><r>" + Repeat("<a/>", 198) +
+                               Repeat("<b/>", nSize - 19901) + "<!--";
+         const std::string strEnd = "--></r>";
+         strText.append(100000 - strText.size() - strEnd.size(), ' ');
+         return strText + strEnd;
      }},
     {"DeclaredAttributes", 10000000,
      [](std::size_t nSize) {
@@ -234,7 +237,7 @@ TEST_F(XmlLimitsTest, ElementsSideBySideAreNoLevels)
 TEST_F(XmlLimitsTest, ASecondDocumentIsCountedAnew)
 {
     const std::string strText = "<!DOCTYPE r [<!ENTITY e ''><!ATTLIST a" +
-                                Numbered(" d~ CDATA ''", 100) + ">]><r>" + Repeat("<a/>", 900) +
+                                Numbered(" d~ CDATA ''", 100) + ">]><r>" + Repeat("<a/>", 100) +
                                 Repeat("&e;", 9000) + Numbered("<c~ e~=''/>", 4000) + "</r>";
     EXPECT_TRUE(Parse(strText));
     EXPECT_TRUE(Parse(strText));

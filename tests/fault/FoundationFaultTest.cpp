@@ -135,6 +135,21 @@ TEST_F(FoundationFaultTest, AnErrorHandlerThatCantBeMadeIsLogged)
               "クラスの生成(new)に失敗しました。\n");
 }
 
+TEST_F(FoundationFaultTest, AParserThatCantBeMadeIsLogged)
+{
+    KZCEkaXDOM dom;
+    const std::string strLog = LogOf([&] {
+        AllocationFault::Arm(1, Kind::Once);
+        const bool bInitialized = dom.Initialize();
+        AllocationFault::Disarm();
+        EXPECT_FALSE(bInitialized);
+    });
+    EXPECT_NE(strLog.find(" KZCXDom::Initialize--\n想定しないエラーが発生しました。\n[File:"),
+              std::string::npos)
+        << strLog;
+    EXPECT_TRUE(dom.Initialize());
+}
+
 TEST_F(FoundationFaultTest, AParseThatRunsOutOfMemoryFailsAndKeepsTheDocument)
 {
     const std::string strPath = m_folder.Write("a.xml", XML);
