@@ -502,6 +502,7 @@ const StepCase STEPS[] = {
     {"StepThatIsNoNumber", R"(startRow="1" endRow="7" stepRow="x3")", false},
     {"NegativeStart", R"(startRow="-3" endRow="-1" stepRow="")", false},
     {"BothRowsAndAStep", R"(startRow="1" endRow="-1" stepRow="3")", true},
+    {"NegativeStep", R"(startRow="1" endRow="7" stepRow="-2")", true},
     {"StartAlone", R"(startRow="1" endRow="0" stepRow="0")", true},
     {"EndAlone", R"(endRow="-1")", true},
     {"NoRows", "", true},
