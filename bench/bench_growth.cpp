@@ -125,6 +125,8 @@ public:
         WriteFile(m_folder / "KZEkaDefine.xml",
                   "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<define>\n" +
                       growing.pReports(nSize) + "</define>\n");
+        WriteFile(m_folder / "TaxOffices.xml",
+                  "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<TaxOffices/>\n");
         std::string strRecord = "001";
         for (std::size_t n = 1; n < growing.pColumns(nSize); ++n)
             strRecord += ",x";
