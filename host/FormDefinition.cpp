@@ -208,17 +208,9 @@ std::string ColumnLabels::FindColumn(long lColumn) const
 const FormDefinition* ProcedureDefinition::FormAt(std::size_t nRecord,
                                                   std::size_t nRecordCount) const
 {
-    if (vecForm.size() == 1)
-        return &vecForm.front();
-    if (vecForm.back().bLastRecord && nRecord == nRecordCount)
-        return &vecForm.back();
-    const auto lRecord = static_cast<long>(nRecord);
-    for (const FormDefinition& form : vecForm) {
-        const bool bOpenEnd = form.lEndRow == 0 || form.lEndRow == -1;
-        if (!form.bLastRecord && form.lStartRow <= lRecord && (bOpenEnd || lRecord <= form.lEndRow))
-            return &form;
-    }
-    return nullptr;
+    const auto nForm = FormOfRecord(vecForm, static_cast<std::int64_t>(nRecord),
+                                    static_cast<std::int64_t>(nRecordCount));
+    return nForm ? &vecForm[*nForm] : nullptr;
 }
 
 struct Definitions::Cache

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "Family.h"
+#include "FormRange.h"
 #include "XmlTree.h"
 
 namespace host {
@@ -88,6 +89,8 @@ struct FormDefinition
     std::vector<ItemDefinition> vecItem;
     ColumnLabels labels;
     long lLine = 0;
+
+    FormRange Range() const { return {lStartRow, lEndRow, bLastRecord}; }
 };
 
 /// A procedure: what a file of one type id is checked by.

@@ -34,9 +34,8 @@ CLI::App* LayoutCommand::AddTo(CLI::App& app)
 {
     CLI::App* pCommand = app.add_subcommand("layout", Say(SUMMARY));
     pCommand->add_option("TYPEID", m_vecTypeId, Say(TYPE_ID_HELP))->type_name("");
-    pCommand->add_option("--format", m_strFormat, Say(FORMAT_HELP))
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"markdown", "html", "csv"}).description(""));
+    AddFormatOption(*pCommand, m_eFormat, {Format::Markdown, Format::Html, Format::Csv},
+                    FORMAT_HELP);
     pCommand->footer(Say(FOOTER));
     return pCommand;
 }
@@ -52,9 +51,9 @@ ExitStatus LayoutCommand::Run()
     const auto vecProcedure = WantedProcedures(definitions, m_vecTypeId, vecProblem);
     if (m_vecTypeId.empty())
         WriteProcedureList(std::cout, vecProcedure);
-    else if (m_strFormat == "html")
+    else if (m_eFormat == Format::Html)
         WriteLayoutHtml(std::cout, vecProcedure);
-    else if (m_strFormat == "csv")
+    else if (m_eFormat == Format::Csv)
         WriteLayoutCsv(std::cout, vecProcedure);
     else
         WriteLayoutMarkdown(std::cout, vecProcedure);

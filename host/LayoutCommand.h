@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Command.h"
+#include "FormatOption.h"
 
 namespace host {
 
@@ -17,7 +18,7 @@ public:
 
 private:
     std::vector<std::string> m_vecTypeId;
-    std::string m_strFormat = "markdown";
+    Format m_eFormat = Format::Markdown;
 };
 
 }  // namespace host

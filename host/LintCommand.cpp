@@ -4,7 +4,6 @@
 
 #include <filesystem>
 #include <iostream>
-#include <map>
 
 #include "Complain.h"
 #include "KZCLoadResource.h"
@@ -67,19 +66,13 @@ bool IsReadableFolder(const std::string& strPath)
 
 CLI::App* LintCommand::AddTo(CLI::App& app)
 {
-    static const std::map<std::string, bool> FORMATS = {{"text", false}, {"json", true}};
     CLI::App* pCommand = app.add_subcommand("lint", Say(SUMMARY));
     pCommand->add_option("BUNDLE", m_strBundle, Say(BUNDLE_HELP))->type_name("");
     pCommand->add_option("--type", m_vecTypeId, Say(TYPE_HELP))
         ->type_name("TYPEID")
         ->take_all()
         ->allow_extra_args(false);
-    pCommand
-        ->add_option_function<std::string>(
-            "--format", [this](const std::string& strName) { m_bJson = FORMATS.at(strName); },
-            Say(FORMAT_HELP))
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember(&FORMATS).description(""));
+    AddFormatOption(*pCommand, m_eFormat, {Format::Json, Format::Text}, FORMAT_HELP);
     pCommand->add_flag("--strict", m_bStrict, Say(STRICT_HELP));
     pCommand->add_flag("--rules", m_bRules, Say(RULES_HELP));
     pCommand->footer(Say(EXAMPLES));
@@ -113,7 +106,7 @@ ExitStatus LintCommand::Run()
     const LintCounts counts = CountFindings(vecFinding);
     const bool bRefused = counts.nErrors > 0 || (m_bStrict && counts.nWarnings > 0);
     const ExitStatus eStatus = bRefused ? ExitStatus::Refused : ExitStatus::Passed;
-    if (m_bJson)
+    if (m_eFormat == Format::Json)
         WriteLintJson(std::cout, strBundle, vecFinding, eStatus);
     else
         WriteLintText(std::cout, strBundle, vecFinding);

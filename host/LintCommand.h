@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "Command.h"
+#include "FormatOption.h"
 
 namespace host {
 
@@ -18,7 +19,7 @@ public:
 private:
     std::string m_strBundle;
     std::vector<std::string> m_vecTypeId;
-    bool m_bJson = false;
+    Format m_eFormat = Format::Text;
     bool m_bStrict = false;
     bool m_bRules = false;
 };

@@ -2,9 +2,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <map>
-#include <string>
-
 #include "Language.h"
 
 namespace host {
@@ -26,17 +23,8 @@ constexpr int LIMIT_MAX = 1'000'000'000;
 
 void AddReportOptions(CLI::App& command, ReportOptions& options)
 {
-    static const std::map<std::string, Format> FORMATS = {{"text", Format::Text},
-                                                          {"json", Format::Json},
-                                                          {"sarif", Format::Sarif},
-                                                          {"html", Format::Html}};
-    command
-        .add_option_function<std::string>(
-            "--format",
-            [&options](const std::string& strName) { options.eFormat = FORMATS.at(strName); },
-            Say(FORMAT_HELP))
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember(&FORMATS).description(""));
+    AddFormatOption(command, options.eFormat,
+                    {Format::Html, Format::Json, Format::Sarif, Format::Text}, FORMAT_HELP);
     command.add_option("--limit", options.limit, Say(LIMIT_HELP))
         ->type_name("N")
         ->check(CLI::Range(0, LIMIT_MAX).description(""));

@@ -5,19 +5,13 @@
 #include <optional>
 #include <string>
 
+#include "FormatOption.h"
+
 namespace CLI {
 class App;
 }
 
 namespace host {
-
-enum class Format
-{
-    Text,
-    Json,
-    Sarif,
-    Html,
-};
 
 struct ReportOptions
 {

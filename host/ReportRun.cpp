@@ -88,6 +88,9 @@ void ReportRun::WriteAll()
         case Format::Html:
             WriteHtml(Out(), m_szCommand, m_vecReport, style);
             return;
+        case Format::Markdown:
+        case Format::Csv:
+            return;  // no report of files has them
     }
 }
 

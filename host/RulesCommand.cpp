@@ -40,20 +40,14 @@ CLI::App* RulesCommand::AddTo(CLI::App& app)
 {
     CLI::App* pCommand = app.add_subcommand("rules", Say(SUMMARY));
     pCommand->add_option("TYPEID", m_vecTypeId, Say(TYPE_ID_HELP))->type_name("");
-    pCommand
-        ->add_option_function<std::string>(
-            "--format",
-            [this](const std::string& strFormat) { m_bMarkdown = strFormat == "markdown"; },
-            Say(FORMAT_HELP))
-        ->type_name("FORMAT")
-        ->check(CLI::IsMember({"json", "markdown"}).description(""));
+    AddFormatOption(*pCommand, m_eFormat, {Format::Json, Format::Markdown}, FORMAT_HELP);
     pCommand->footer(Say(FOOTER));
     return pCommand;
 }
 
 ExitStatus RulesCommand::Run()
 {
-    if (m_bMarkdown) {
+    if (m_eFormat == Format::Markdown) {
         WriteItemCatalogue(std::cout);
         return ExitStatus::Passed;
     }

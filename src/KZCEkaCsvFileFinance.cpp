@@ -6,6 +6,7 @@
 #include "CText.h"
 #include "FamilyFolder.h"
 #include "Fault.h"
+#include "FormRange.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
@@ -180,23 +181,13 @@ int KZCEkaCsvFileFinance::CheckReportRecords() const
 int KZCEkaCsvFileFinance::CheckRange(const COL_INFO& info) const
 {
     const std::int64_t nCount = GetRecordCount();
-    std::int64_t nFirst = nCount;
-    std::int64_t nLast = nCount;
-    if (info.nLastRecord == 0) {
-        nFirst = info.nStartRow;
-        if (nFirst < 1) {
-            KZCDebugDump::Log(CHECK_MAX_RECORD);
-            return STATUS_NG;
-        }
-        const bool bOpenEnd = info.nEndRow == 0 || info.nEndRow == -1;
-        // A trailer keeps its record out of the range before it.
-        const bool bTrailer = m_vecColInfo.back().nLastRecord != 0;
-        if (!bOpenEnd)
-            nLast = std::min(info.nEndRow, nCount);
-        else if (bTrailer)
-            nLast = nCount - 1;
+    const FormRange range = {info.nStartRow, info.nEndRow, info.nLastRecord != 0};
+    if (!range.bTrailer && range.nStartRow < 1) {
+        KZCDebugDump::Log(CHECK_MAX_RECORD);
+        return STATUS_NG;
     }
-    for (std::int64_t nNumber = nFirst; nNumber <= nLast; ++nNumber)
+    const RecordSpan span = RecordsOf(range, m_vecColInfo.back().nLastRecord != 0, nCount);
+    for (std::int64_t nNumber = span.nFirst; nNumber <= span.nLast; ++nNumber)
         if (checkColumnCount(static_cast<int>(nNumber - 1), info.nColumnNum) != STATUS_OK)
             return STATUS_NG;
     return STATUS_OK;

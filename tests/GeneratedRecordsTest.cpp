@@ -151,6 +151,32 @@ std::vector<ProcedureRules> ReadProcedures(const std::string& strProcId = "")
     return vecProcedure;
 }
 
+/// The first record (from 0) of a file of so many records that a form checks.
+std::size_t FirstRow(const ProcedureRules& procedure, std::size_t nForm, std::size_t nCount)
+{
+    std::size_t nRow = 0;
+    while (procedure.FormAt(nRow, nCount) != nForm)
+        ++nRow;
+    return nRow;
+}
+
+/// The form checks as many records as there are.
+bool IsRepeated(const ProcedureRules& procedure, std::size_t nForm)
+{
+    const FormRules& form = procedure.vecForm.at(nForm);
+    return procedure.nMaxRecords > 1 && !form.bLastRecord && form.lEndRow <= 0;
+}
+
+/// Some check of another record reads the record (from 0).
+bool IsReferredTo(const ProcedureRules& procedure, std::size_t nRow)
+{
+    return std::ranges::any_of(procedure.vecForm, [nRow](const FormRules& form) {
+        return std::ranges::any_of(form.vecCheck, [nRow](const CheckRule& rule) {
+            return ReferredRecord(rule) == static_cast<long>(nRow) + 1;
+        });
+    });
+}
+
 /// Family, type id and procedure of the shipped files, read when the tests are listed.
 struct ProcedureName
 {
@@ -315,13 +341,13 @@ TEST_P(GeneratedRecordsTest, RecordsVaryAndHaveEveryGenerationOfTheForm)
 /// A form of any number of records has its spoiled ones in one file; another has a file for each.
 std::vector<SpoiledFile> GeneratedRecordsTest::SpoilForm(std::size_t nForm) const
 {
-    const bool bRepeated = m_procedure.IsRepeated(nForm);
+    const bool bRepeated = IsRepeated(m_procedure, nForm);
     const SpoilEffort effort = bRepeated ? IN_ONE_FILE : IN_FILES_OF_THEIR_OWN;
     const std::size_t nCount = m_procedure.ShortestFile();
     const std::size_t nLastForm = m_procedure.vecForm.size() - 1;
     const bool bTrailer = m_procedure.vecForm[nLastForm].bLastRecord;
     const std::size_t nRow =
-        bRepeated ? nCount - (bTrailer ? 2 : 1) : m_procedure.FirstRow(nForm, nCount);
+        bRepeated ? nCount - (bTrailer ? 2 : 1) : FirstRow(m_procedure, nForm, nCount);
     const CheckPhase phase(Mode());
     FileGenerator generator = Generator();
     std::vector<SpoiledFile> vecFile;
@@ -369,7 +395,7 @@ void GeneratedRecordsTest::ExpectRefusals(const SpoiledFile& file)
     bool bReferred = false;
     std::set<std::size_t> setSpoiled;
     for (const SpoiledFile::Cell& cell : file.vecCell) {
-        bReferred = bReferred || m_procedure.IsReferredTo(cell.nRow);
+        bReferred = bReferred || IsReferredTo(m_procedure, cell.nRow);
         setSpoiled.insert(cell.nRow);
         const auto& vecEntry = vecByRecord[cell.nRow];
         EXPECT_TRUE(std::ranges::any_of(

@@ -69,6 +69,7 @@ struct FormRules
     bool bTypeIdFirst = true;     ///< its records begin with the type id
     bool bHasGenerations = true;  ///< its records are of a generation
     bool bQuoted = false;         ///< cells may stand in quotes and hold commas and line ends
+    FormRange Range() const { return {lStartRow, lEndRow, bLastRecord}; }
     std::vector<ItemRule> vecItem;
     std::vector<CheckRule> vecCheck;  ///< in document order
 

@@ -8,9 +8,6 @@
 
 namespace host {
 
-namespace {
-
-/// The greatest record number (from 1) to which a rule refers, or 0.
 long ReferredRecord(const CheckRule& rule)
 {
     long lRecord = 0;
@@ -19,30 +16,13 @@ long ReferredRecord(const CheckRule& rule)
     return lRecord;
 }
 
-}  // namespace
-
 std::size_t ProcedureRules::FormAt(std::size_t nRow, std::size_t nCount) const
 {
-    if (vecForm.back().bLastRecord && nRow + 1 == nCount)
-        return vecForm.size() - 1;
-    for (std::size_t n = vecForm.size(); n-- > 0;)
-        if (!vecForm[n].bLastRecord && vecForm[n].lStartRow <= static_cast<long>(nRow) + 1)
-            return n;
-    throw std::runtime_error(strProcId + ": no form for record " + std::to_string(nRow + 1));
-}
-
-std::size_t ProcedureRules::FirstRow(std::size_t nForm, std::size_t nCount) const
-{
-    std::size_t nRow = 0;
-    while (FormAt(nRow, nCount) != nForm)
-        ++nRow;
-    return nRow;
-}
-
-bool ProcedureRules::IsRepeated(std::size_t nForm) const
-{
-    const FormRules& form = vecForm.at(nForm);
-    return nMaxRecords > 1 && !form.bLastRecord && form.lEndRow <= 0;
+    const auto nForm = FormOfRecord(vecForm, static_cast<std::int64_t>(nRow) + 1,
+                                    static_cast<std::int64_t>(nCount));
+    if (!nForm)
+        throw std::runtime_error(strProcId + ": no form for record " + std::to_string(nRow + 1));
+    return *nForm;
 }
 
 std::size_t ProcedureRules::ShortestFile() const
@@ -56,15 +36,6 @@ std::size_t ProcedureRules::ShortestFile() const
     }
     const auto nCount = static_cast<std::size_t>(lCount);
     return nCount + (vecForm.back().bLastRecord ? 1 : 0);
-}
-
-bool ProcedureRules::IsReferredTo(std::size_t nRow) const
-{
-    return std::ranges::any_of(vecForm, [nRow](const FormRules& form) {
-        return std::ranges::any_of(form.vecCheck, [nRow](const CheckRule& rule) {
-            return ReferredRecord(rule) == static_cast<long>(nRow) + 1;
-        });
-    });
 }
 
 ProcedureRules MakeProcedureRules(const ProcedureDefinition& definition)

@@ -19,17 +19,14 @@ struct ProcedureRules
 
     /// Place in vecForm of the form that checks a record (from 0) of a file of so many records.
     std::size_t FormAt(std::size_t nRow, std::size_t nCount) const;
-    /// The first record (from 0) of a file of so many records that a form checks.
-    std::size_t FirstRow(std::size_t nForm, std::size_t nCount) const;
-    /// The form checks as many records as there are.
-    bool IsRepeated(std::size_t nForm) const;
     /// Records of the shortest file in which every form has a record and which holds every record
     /// to which another refers by its number.
     std::size_t ShortestFile() const;
-    /// Some check of another record reads the record (from 0).
-    bool IsReferredTo(std::size_t nRow) const;
     bool HasGenerations() const { return eFamily == Family::Base; }
 };
+
+/// The greatest record (from 1) to which a rule refers by its number, or 0.
+long ReferredRecord(const CheckRule& rule);
 
 /// The rules of a procedure. Throws std::runtime_error for an unknown keyword.
 ProcedureRules MakeProcedureRules(const ProcedureDefinition& definition);

@@ -570,20 +570,8 @@ void PlaceItems(const LintFile& file, LintForm& form, LintReport& report)
 
 const LintForm* FormOfRecord(const LintFile& checks, long lRecord, long lCount)
 {
-    if (checks.vecForm.size() == 1)
-        return &checks.vecForm.front();
-    if (checks.vecForm.empty())
-        return nullptr;
-    const bool bTrailer = checks.vecForm.back().lLastRecord != 0;
-    if (bTrailer && lRecord == lCount)
-        return &checks.vecForm.back();
-    for (const LintForm& form : checks.vecForm) {
-        const bool bOpenEnd = form.lEndRow == 0 || form.lEndRow == -1;
-        if (form.lLastRecord == 0 && form.lStartRow <= lRecord &&
-            (bOpenEnd || lRecord <= form.lEndRow))
-            return &form;
-    }
-    return nullptr;
+    const auto nForm = ::FormOfRecord(checks.vecForm, lRecord, lCount);
+    return nForm ? &checks.vecForm[*nForm] : nullptr;
 }
 
 long ColumnsOfRecord(const LintFile& checks, long lRecord, long lCount)

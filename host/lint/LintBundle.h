@@ -66,6 +66,7 @@ struct LintForm
     std::vector<std::size_t> vecTop;  ///< items directly below the report, in order
     bool bTooDeep = false;            ///< the tree has more levels or ways than the library takes
 
+    FormRange Range() const { return {lStartRow, lEndRow, lLastRecord != 0}; }
     LintPlace At(const std::string& strFile) const { return {strFile, pElement->lLine}; }
 };
 

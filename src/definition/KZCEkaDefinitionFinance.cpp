@@ -7,6 +7,7 @@
 #include "CText.h"
 #include "FamilyFolder.h"
 #include "Fault.h"
+#include "FormRange.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
@@ -201,18 +202,14 @@ int KZCEkaDefinitionFinance::ValidateCsv(const KZCEkaCsvFile* pCsv)
 KZCEkaDefinitionFinance::RecordRange KZCEkaDefinitionFinance::RangeToCheck(
     const REPORT_INFO& info, std::int64_t nCount) const
 {
-    if (CText::ReadInt(info.strLastRecord.c_str()) != 0)
-        return {nCount - 1, nCount};
-    const std::int64_t nStart = ReadRow(info.strStartRow);
-    if (nStart < 0)
+    const auto isTrailer = [](const REPORT_INFO& report) {
+        return CText::ReadInt(report.strLastRecord.c_str()) != 0;
+    };
+    const FormRange range = {ReadRow(info.strStartRow), ReadRow(info.strEndRow), isTrailer(info)};
+    if (!range.bTrailer && range.nStartRow < 0)
         RaiseFault(VALIDATE_CSV, "開始レコードの値が不正です。");
-    const std::int64_t nFirst = nStart == 0 ? 0 : nStart - 1;
-    const std::int64_t nEnd = ReadRow(info.strEndRow);
-    if (nEnd != 0 && nEnd != -1)
-        return {nFirst, std::min(nEnd, nCount)};
-    // A trailer at the end takes the last record for itself.
-    const bool bTrailer = CText::ReadInt(m_listReport.back().strLastRecord.c_str()) != 0;
-    return {nFirst, bTrailer ? nCount - 1 : nCount};
+    const RecordSpan span = RecordsOf(range, isTrailer(m_listReport.back()), nCount);
+    return {span.nFirst - 1, span.nLast};
 }
 
 std::string KZCEkaDefinitionFinance::MakeReportToCsvFinance(const KZCEkaCsvFile* pCsv,

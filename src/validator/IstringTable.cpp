@@ -40,11 +40,6 @@ private:
 
 }  // namespace
 
-std::span<const Range> CodeRanges()
-{
-    return CODES;
-}
-
 std::span<const Range> UnitRanges()
 {
     return UNITS;

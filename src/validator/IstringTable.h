@@ -12,8 +12,6 @@ struct Range
     std::uint16_t nLast;
 };
 
-/// Assigned positions of JIS X 0208 as Shift_JIS codes.
-std::span<const Range> CodeRanges();
 /// The Unicode units: the images of JIS X 0208 in the standard's own mapping, with the additions
 /// and omissions of the filing service. 4118 ranges in ascending order.
 std::span<const Range> UnitRanges();
