@@ -47,7 +47,7 @@ class UncheckedCsvFile : public KZCEkaCsvFile
 {
 public:
     bool ValidateRecord(const Record& /*record*/) override { return true; }
-    const std::vector<Record>& Records() const { return m_vecRecord; }
+    std::vector<Record> Records() const { return m_table.Records(); }
 };
 
 }  // namespace FuzzSupport

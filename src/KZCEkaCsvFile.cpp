@@ -1,10 +1,10 @@
 #include "KZCEkaCsvFile.h"
 
-#include <algorithm>
 #include <string_view>
 #include <utility>
 
 #include "CText.h"
+#include "CsvSplitter.h"
 #include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
@@ -17,23 +17,18 @@ namespace {
 
 constexpr unsigned short DEFINITION_INDEX_ID = 202;
 
-bool IsBlank(const KZCEkaCsvFile::Record& record)
-{
-    return record.empty() || record.front().empty();
-}
+/// Held of the records beyond the limit, in bytes. A document may have 10 MiB; a file of more could
+/// not be filed even if it had fewer records.
+constexpr std::size_t HELD_BEYOND_LIMIT = 10'485'760;
 
-/// Outside quotes the byte ends a column.
-constexpr bool EndsColumn(char cByte)
-{
-    return cByte == ',' || cByte == '\n' || cByte == '\r';
-}
+/// Memory that the column being read keeps between columns, in bytes.
+constexpr std::size_t KEPT_BUFFER = 65'536;
 
 }  // namespace
 
 std::int64_t KZCEkaCsvFile::GetNonCRLFRecordCount() const
 {
-    return std::ranges::count_if(m_vecRecord,
-                                 [](const Record& record) { return !IsBlank(record); });
+    return m_table.FilledCount();
 }
 
 int KZCEkaCsvFile::ReadFile(const std::string& strPath)
@@ -57,7 +52,7 @@ int KZCEkaCsvFile::ReadFile(const std::string& strPath)
 int KZCEkaCsvFile::CheckRecordCount() const
 {
     const std::int64_t nCount = GetRecordCount();
-    const bool bOnlyClosingBlank = nCount == BASE_RECORDS_MAX + 1 && IsBlank(m_vecRecord.back());
+    const bool bOnlyClosingBlank = nCount == BASE_RECORDS_MAX + 1 && !m_table.IsFilled(nCount - 1);
     if (nCount <= BASE_RECORDS_MAX || bOnlyClosingBlank)
         return STATUS_OK;
     return Refuse(HE70020E, 0, 0, "KZCEkaCsvFile::ReadFile",
@@ -66,32 +61,19 @@ int KZCEkaCsvFile::CheckRecordCount() const
 
 bool KZCEkaCsvFile::IsValidRecord(long lRecord) const
 {
-    if (lRecord < 0 || lRecord >= GetRecordCount())
-        return false;
-    const Record& record = m_vecRecord[static_cast<std::size_t>(lRecord)];
-    return !IsBlank(record) && record.size() >= 2;
+    return m_table.IsFilled(lRecord) && m_table.ColumnCount(lRecord) >= 2;
 }
 
 void KZCEkaCsvFile::DeleteEmptyRecord()
 {
-    // All memory is taken before the first record moves: a fault leaves the file as it was.
-    std::vector<Record> vecKept;
-    vecKept.reserve(m_vecRecord.size());
+    // All memory is taken before the first record goes: a fault leaves the file as it was.
     std::map<std::int64_t, std::string> mapKept;
     auto pGeneration = m_mapGeneration.begin();
-    std::int64_t nKept = 0;
-    for (const Record& record : m_vecRecord) {
-        if (IsBlank(record))
-            continue;
-        // By position, not by the old number: wanted.
-        if (pGeneration != m_mapGeneration.end())
-            mapKept.emplace(nKept, (pGeneration++)->second);
-        ++nKept;
-    }
-    for (Record& record : m_vecRecord)
-        if (!IsBlank(record))
-            vecKept.push_back(std::move(record));
-    m_vecRecord = std::move(vecKept);
+    // By position, not by the old number: wanted.
+    for (std::int64_t nKept = 0;
+         nKept < m_table.FilledCount() && pGeneration != m_mapGeneration.end(); ++nKept)
+        mapKept.emplace(nKept, (pGeneration++)->second);
+    m_table.Remove([](bool bFilled, std::int64_t /*nColumns*/) { return !bFilled; });
     m_mapGeneration = std::move(mapKept);
 }
 
@@ -100,7 +82,9 @@ void KZCEkaCsvFile::Clear()
     m_mapGeneration.clear();
     m_strTypeId.clear();
     m_nColumnNum = 0;
-    m_vecRecord.clear();
+    m_table.Clear();
+    m_nSurplusColumns = 0;
+    m_bCountOnly = false;
 }
 
 int KZCEkaCsvFile::ColumnTerm(std::string& strBuffer, Record& record, bool bEndOfRecord)
@@ -110,22 +94,38 @@ int KZCEkaCsvFile::ColumnTerm(std::string& strBuffer, Record& record, bool bEndO
         return STATUS_OK;
     if (!ValidateRecord(record))
         return STATUS_NG;
-    StoreRecord(record);
+    // The last record that can count is held whatever it is: it may be the forgiven blank one.
+    StoreRecord(record, GetRecordCount() > BASE_RECORDS_MAX);
     return STATUS_OK;
 }
 
 void KZCEkaCsvFile::TakeColumn(std::string& strBuffer, Record& record)
 {
-    record.push_back(KZCEkaCommon::StringTrim(strBuffer));
+    if (record.empty())
+        m_nSurplusColumns = 0;
+    if (record.size() < (m_bCountOnly ? 1 : CsvTable::MAX_HELD_COLUMNS))
+        record.push_back(KZCEkaCommon::StringTrim(strBuffer));
+    else
+        ++m_nSurplusColumns;
     strBuffer.clear();
+    if (strBuffer.capacity() > KEPT_BUFFER)
+        strBuffer.shrink_to_fit();
 }
 
-void KZCEkaCsvFile::StoreRecord(Record& record)
+std::int64_t KZCEkaCsvFile::ColumnsOf(const Record& record) const
 {
-    const std::size_t nColumns = record.size();
-    m_vecRecord.push_back(std::move(record));
+    return static_cast<std::int64_t>(record.size()) + m_nSurplusColumns;
+}
+
+void KZCEkaCsvFile::StoreRecord(Record& record, bool bBeyondLimit)
+{
+    m_bCountOnly = m_bCountOnly || (bBeyondLimit && m_table.HeldBytes() > HELD_BEYOND_LIMIT);
+    if (m_bCountOnly)
+        m_table.Count(record);
+    else
+        m_table.Append(record, ColumnsOf(record));
     record.clear();
-    record.reserve(nColumns);
+    m_nSurplusColumns = 0;
 }
 
 int KZCEkaCsvFile::Refuse(KZCEkaMessage_t eMessage,
@@ -159,7 +159,7 @@ bool KZCEkaCsvFile::ValidateRecord(const Record& record)
 {
     constexpr const char* FUNCTION = "KZCEkaCsvFile::ValidateRecord";
     const std::string& strTypeId = record.front();
-    if (strTypeId.empty() && record.size() == 1)
+    if (strTypeId.empty() && ColumnsOf(record) == 1)
         return true;
     if (m_strTypeId.empty()) {
         if (!FindTypeId(strTypeId))
@@ -170,10 +170,11 @@ bool KZCEkaCsvFile::ValidateRecord(const Record& record)
         return Refuse(HE70021E, 0, 1, FUNCTION, "CSV内で申請番号が統一されていません。（HE70021E）",
                       strTypeId.c_str()) == STATUS_OK;
     }
-    if (static_cast<std::int64_t>(record.size()) == m_nColumnNum)
+    const std::int64_t nColumns = ColumnsOf(record);
+    if (nColumns == m_nColumnNum)
         return true;
-    return Refuse(HE70019E, 0, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）",
-                  static_cast<long>(record.size())) == STATUS_OK;
+    return Refuse(HE70019E, 0, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）", nColumns) ==
+           STATUS_OK;
 }
 
 /// Takes the type id and its column count from the definition index. False if it isn't there.
@@ -196,67 +197,26 @@ bool KZCEkaCsvFile::FindTypeId(const std::string& strTypeId)
 int KZCEkaCsvFile::ReadAndParse(const std::string& strPath, bool bQuote, const char* szFunction)
 {
     Clear();
-    const std::string strText =
-        KZCMacOSNative::readSJISFile(strPath.c_str(), !KZCEkaCommon::GetCsvCheckFlag());
-    if (strText.empty())
+    CsvSplitter splitter(*this, bQuote);
+    int nStatus = STATUS_OK;
+    const bool bRead = KZCMacOSNative::readSJISPieces(
+        strPath.c_str(), !KZCEkaCommon::GetCsvCheckFlag(), [&](std::string_view strPiece) {
+            nStatus = splitter.Take(strPiece);
+            return nStatus == STATUS_OK;
+        });
+    if (!bRead) {
+        Clear();
         RaiseFault(szFunction, "CSVファイルリードエラーが発生しました。");
-    return Parse(strText.c_str(), bQuote);
+    }
+    return nStatus == STATUS_OK ? splitter.Finish() : nStatus;
 }
 
 int KZCEkaCsvFile::Parse(const char* szText, bool bQuote)
 {
     if (szText == nullptr)
         RaiseFault("KZCEkaCsvFile::Parse", "引数のポインタが不正です。");
-
-    const std::string_view strText = szText;
-    // The terminator counts as the text's last byte, as a line end does.
-    const auto byteAt = [strText](std::size_t nIndex) {
-        return nIndex < strText.size() ? strText[nIndex] : '\0';
-    };
-    std::string strBuffer;
-    Record record;
-    bool bInQuotes = false;
-    std::size_t nColumnStart = 0;
-    for (std::size_t nIndex = 0;; ++nIndex) {
-        const char cByte = byteAt(nIndex);
-        if (cByte == '\0')
-            return ColumnTerm(strBuffer, record, true);
-        if (bInQuotes) {
-            if (cByte != '"')
-                strBuffer += cByte;
-            else if (byteAt(nIndex + 1) == '"')
-                strBuffer += byteAt(++nIndex);
-            else
-                bInQuotes = false;
-        } else if (cByte == '"' && bQuote && nIndex == nColumnStart) {
-            bInQuotes = true;
-        } else if (cByte == ',') {
-            static_cast<void>(ColumnTerm(strBuffer, record, false));
-            nColumnStart = nIndex + 1;
-        } else if (cByte == '\n' || cByte == '\r') {
-            if (ColumnTerm(strBuffer, record, true) != STATUS_OK)
-                return STATUS_NG;
-            if (cByte == '\r' && byteAt(nIndex + 1) == '\n')
-                ++nIndex;
-            nColumnStart = nIndex + 1;
-        } else {
-            // Nothing before the column's end has a meaning any more: one piece.
-            std::size_t nEnd = nIndex + 1;
-            while (nEnd < strText.size() && !EndsColumn(strText[nEnd]))
-                ++nEnd;
-            strBuffer.append(strText, nIndex, nEnd - nIndex);
-            nIndex = nEnd - 1;
-        }
-    }
-}
-
-const char* KZCEkaCsvFile::GetItem(long lRecord, long lColumn) const
-{
-    if (lRecord < 0 || lRecord >= GetRecordCount() || lColumn < 0)
-        return "";
-    const Record& record = m_vecRecord[static_cast<std::size_t>(lRecord)];
-    const auto nColumn = static_cast<std::size_t>(lColumn);
-    return nColumn < record.size() ? record[nColumn].c_str() : "";
+    CsvSplitter splitter(*this, bQuote);
+    return splitter.Take(szText) == STATUS_OK ? splitter.Finish() : STATUS_NG;
 }
 
 std::string KZCEkaCsvFile::GetRecordGeneration(long lRecord) const

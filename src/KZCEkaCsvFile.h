@@ -4,8 +4,8 @@
 #include <cstdint>
 #include <map>
 #include <string>
-#include <vector>
 
+#include "CsvTable.h"
 #include "EkaMsgTable.h"
 
 /// Cells are Shift_JIS while a check runs and UTF-8 otherwise. Texts handed out stay valid until
@@ -13,7 +13,7 @@
 class KZCEkaCsvFile
 {
 public:
-    using Record = std::vector<std::string>;
+    using Record = CsvTable::Record;
 
     KZCEkaCsvFile() = default;
     virtual ~KZCEkaCsvFile() = default;
@@ -42,9 +42,9 @@ public:
 
     const char* GetTypeId() const { return m_strTypeId.c_str(); }
     /// Blank records included.
-    std::int64_t GetRecordCount() const { return static_cast<std::int64_t>(m_vecRecord.size()); }
+    std::int64_t GetRecordCount() const { return m_table.RecordCount(); }
     /// Both from 0. The empty text for anything out of range.
-    const char* GetItem(long lRecord, long lColumn) const;
+    const char* GetItem(long lRecord, long lColumn) const { return m_table.Cell(lRecord, lColumn); }
     /// "junior", "senior", or the empty text.
     std::string GetRecordGeneration(long lRecord) const;
     bool isLastRecord(long lRecord) const { return lRecord + 1 == GetRecordCount(); }
@@ -60,10 +60,13 @@ protected:
     /// Reads a file anew and splits it. \return what Parse returned. Throws FAULT if it can't be
     /// read.
     int ReadAndParse(const std::string& strPath, bool bQuote, const char* szFunction);
-    /// Ends a column: its trimmed text goes to the record.
-    static void TakeColumn(std::string& strBuffer, Record& record);
-    /// Stores a record and leaves an empty one of the same capacity.
-    void StoreRecord(Record& record);
+    /// Ends a column: its trimmed text goes to the record, or is only counted in one too wide.
+    void TakeColumn(std::string& strBuffer, Record& record);
+    /// Columns of the record being read, those that are only counted too.
+    std::int64_t ColumnsOf(const Record& record) const;
+    /// Stores a record and leaves an empty one of the same capacity. \param bBeyondLimit  The file
+    /// has more records than it may: it is refused in the end, and cells aren't held for ever.
+    void StoreRecord(Record& record, bool bBeyondLimit);
     /// Records an error of the structure and logs it. \return STATUS_NG.
     static int Refuse(KZCEkaMessage_t eMessage,
                       long lRecord,
@@ -81,9 +84,12 @@ protected:
     std::map<std::int64_t, std::string> m_mapGeneration;
     std::string m_strTypeId;
     std::int64_t m_nColumnNum = 0;
-    std::vector<Record> m_vecRecord;
+    CsvTable m_table;
 
 private:
     int CheckRecordCount() const;
     bool FindTypeId(const std::string& strTypeId);
+
+    std::int64_t m_nSurplusColumns = 0;  ///< of the record being read, counted without their text
+    bool m_bCountOnly = false;           ///< of further records the first column alone is looked at
 };

@@ -8,7 +8,7 @@ int KZCEkaCsvFileCrossBorder::ReadFile(const std::string& strPath)
     try {
         const int nStatus = ReadAndParse(strPath, true, FUNCTION);
         if (nStatus != STATUS_OK)
-            m_vecRecord.clear();
+            m_table.Clear();
         return nStatus;
     } catch (...) {
         RaiseFault(FUNCTION, UNEXPECTED_ERROR);

@@ -1,7 +1,6 @@
 #include "KZCEkaCsvFileFinance.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "CText.h"
 #include "FamilyFolder.h"
@@ -33,9 +32,11 @@ std::int64_t ReadNumber(const KZCEkaXDOM& dom, const char* szAttribute)
 
 std::int64_t KZCEkaCsvFileFinance::GetNonCRLFRecordCount() const
 {
+    if (m_eEmptyCheckMode == EMPTYCHECK_FIRST_COLUMN)
+        return m_table.FilledCount();
     std::int64_t nCount = 0;
-    for (auto pRecord = m_vecRecord.begin(); pRecord != m_vecRecord.end(); ++pRecord)
-        if (!isEmptyRecord(pRecord))
+    for (long lRecord = 0; lRecord < GetRecordCount(); ++lRecord)
+        if (!isEmptyRecord(lRecord))
             ++nCount;
     return nCount;
 }
@@ -52,22 +53,16 @@ int KZCEkaCsvFileFinance::ReadFile(const std::string& strPath)
 
 bool KZCEkaCsvFileFinance::IsValidRecord(long lRecord) const
 {
-    if (lRecord < 0 || lRecord >= GetRecordCount())
-        return false;
-    const Record& record = m_vecRecord[static_cast<std::size_t>(lRecord)];
-    if (m_eEmptyCheckMode == EMPTYCHECK_COLUMN_COUNT)
-        return !record.empty();
-    return std::ranges::any_of(record, [](const std::string& strCell) { return !strCell.empty(); });
+    return m_eEmptyCheckMode == EMPTYCHECK_COLUMN_COUNT ? m_table.ColumnCount(lRecord) > 0
+                                                        : m_table.HasText(lRecord);
 }
 
 void KZCEkaCsvFileFinance::DeleteEmptyRecord()
 {
-    std::vector<Record> vecKept;
-    vecKept.reserve(m_vecRecord.size());  // a fault behind this would lose the records that moved
-    for (auto pRecord = m_vecRecord.begin(); pRecord != m_vecRecord.end(); ++pRecord)
-        if (!isEmptyRecord(pRecord))
-            vecKept.push_back(std::move(*pRecord));
-    m_vecRecord = std::move(vecKept);
+    if (m_eEmptyCheckMode == EMPTYCHECK_COLUMN_COUNT)
+        m_table.Remove([](bool /*bFilled*/, std::int64_t nColumns) { return nColumns == 0; });
+    else
+        m_table.Remove([](bool bFilled, std::int64_t /*nColumns*/) { return !bFilled; });
 }
 
 void KZCEkaCsvFileFinance::Clear()
@@ -83,7 +78,7 @@ int KZCEkaCsvFileFinance::ColumnTerm(std::string& strBuffer, Record& record, boo
         return STATUS_OK;
     switch (ValidateRecordFinance(record)) {
         case STORE_RECORD:
-            StoreRecord(record);
+            StoreRecord(record, HasTooManyRecords());
             return STATUS_OK;
         case DROP_RECORD:
             record.clear();
@@ -96,12 +91,12 @@ int KZCEkaCsvFileFinance::ColumnTerm(std::string& strBuffer, Record& record, boo
 int KZCEkaCsvFileFinance::ValidateRecordFinance(const Record& record)
 {
     const std::string& strFirst = record.front();
-    if (strFirst.empty() && record.size() == 1)
+    if (strFirst.empty() && ColumnsOf(record) == 1)
         return DROP_RECORD;
     if (m_strTypeId.empty() && !ReadReports(record))
         return STOP_READING;
     // With several reports only the first record of the file begins with the type id.
-    if (m_vecColInfo.size() != 1 || m_vecRecord.empty() || strFirst == m_strTypeId)
+    if (m_vecColInfo.size() != 1 || GetRecordCount() == 0 || strFirst == m_strTypeId)
         return STORE_RECORD;
     Refuse(HE70021E, 0, 1, VALIDATE_RECORD, "CSV内で申請番号が統一されていません。（HE70021E）",
            strFirst.c_str());
@@ -118,6 +113,7 @@ bool KZCEkaCsvFileFinance::ReadReports(const Record& record)
         Refuse(HE70021E, 0, 1, VALIDATE_RECORD, "手続情報が見つかりません。（HE70021E）", "");
         return false;
     }
+    m_nMaxRecord = info.lMaxRecord;
     LoadReports(strTypeId, info.procId);
     if (!m_strTypeId.empty())
         return true;
@@ -200,18 +196,16 @@ int KZCEkaCsvFileFinance::checkColumnCount(int nIndex, long lExpected) const
         return Refuse(HE70019E, 0, 0, FUNCTION,
                       "定義体の内容が不正です。CSVのカラム数を取得できません。（HE70019E）",
                       lExpected);
-    const auto nRecord = static_cast<std::size_t>(nIndex);
-    const long lCount =
-        nRecord < m_vecRecord.size() ? static_cast<long>(m_vecRecord[nRecord].size()) : 0;
-    if (lCount == lExpected)
+    const std::int64_t nCount = m_table.ColumnCount(nIndex);
+    if (nCount == lExpected)
         return STATUS_OK;
-    return Refuse(HE70019E, 0, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）", lCount);
+    return Refuse(HE70019E, 0, 0, FUNCTION, "CSVのカラム数が不正です。（HE70019E）", nCount);
 }
 
-bool KZCEkaCsvFileFinance::isEmptyRecord(std::vector<Record>::const_iterator pRecord) const
+bool KZCEkaCsvFileFinance::isEmptyRecord(long lRecord) const
 {
-    return pRecord->empty() ||
-           (m_eEmptyCheckMode == EMPTYCHECK_FIRST_COLUMN && pRecord->front().empty());
+    return m_eEmptyCheckMode == EMPTYCHECK_COLUMN_COUNT ? m_table.ColumnCount(lRecord) == 0
+                                                        : !m_table.IsFilled(lRecord);
 }
 
 void KZCEkaCsvFileFinance::setEmptyCheckMode(const std::string& strTypeId)
@@ -227,4 +221,13 @@ std::int64_t KZCEkaCsvFileFinance::CountValidRecords() const
         if (IsValidRecord(lRecord))
             ++nValid;
     return nValid;
+}
+
+/// Whatever follows, checkMaxRecord refuses the file for its number of records.
+bool KZCEkaCsvFileFinance::HasTooManyRecords() const
+{
+    // Every record that is read has columns.
+    const std::int64_t nCount =
+        m_eEmptyCheckMode == EMPTYCHECK_COLUMN_COUNT ? GetRecordCount() : m_table.FilledCount();
+    return nCount > m_nMaxRecord;
 }

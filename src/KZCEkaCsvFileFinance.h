@@ -52,7 +52,8 @@ public:
     int checkMaxRecord() const;
     /// \param nIndex  Record from 0.
     int checkColumnCount(int nIndex, long lExpected) const;
-    bool isEmptyRecord(std::vector<Record>::const_iterator pRecord) const;
+    /// \param lRecord  From 0.
+    bool isEmptyRecord(long lRecord) const;
     void setEmptyCheckMode(const std::string& strTypeId);
 
 protected:
@@ -68,4 +69,7 @@ private:
     int CheckReportRecords() const;
     int CheckRange(const COL_INFO& info) const;
     std::int64_t CountValidRecords() const;
+    bool HasTooManyRecords() const;
+
+    std::int64_t m_nMaxRecord = 0;  ///< of the procedure
 };

@@ -1,6 +1,7 @@
 // The seam between the library and the platform: text, files, calendar.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,16 @@ public:
     /// NUL. Empty if the file can't be read, is empty, is no regular file, or holds one invalid
     /// sequence.
     static std::string readSJISFile(const char* szPath, bool bUtf8);
+
+    /// What takes a text or a file piece by piece. \return false to have no more of it.
+    using PieceUse = std::function<bool(std::string_view strPiece)>;
+
+    /// The same text piece by piece, so that a large file needs no memory of its size; a piece may
+    /// end inside a character. A large file is read twice: use gets nothing before it is known that
+    /// all can be read and decoded.
+    /// \return false if readSJISFile gives the empty text, or a file that changed between the two
+    /// readings can't be read to its end.
+    static bool readSJISPieces(const char* szPath, bool bUtf8, const PieceUse& use);
 
     /// Writes the text as a Shift_JIS file, replacing what an existing file holds.
     /// \return false if the text can't be decoded, a character has no place in Shift_JIS (the file
@@ -77,6 +88,8 @@ public:
     /// The bytes of a regular file.
     /// \return false if it can't be read to its end.
     static bool readFile(const char* szPath, std::string& strBytes);
+    /// The same piece by piece. \return false if it can't be read up to where use ends it.
+    static bool readFile(const char* szPath, const PieceUse& use);
     enum class ReadResult
     {
         READ,

@@ -72,6 +72,20 @@ public:
         }
     }
 
+    bool ReadPieces(const KZCMacOSNative::PieceUse& use) const
+    {
+        std::array<char, READ_CHUNK> chunk;
+        for (;;) {
+            const ssize_t nRead = read(m_nFile, chunk.data(), chunk.size());
+            if (nRead == 0)
+                return true;
+            if (nRead < 0 && errno != EINTR)
+                return false;
+            if (nRead > 0 && !use({chunk.data(), static_cast<std::size_t>(nRead)}))
+                return true;
+        }
+    }
+
     /// The same of something that may end late or never. Opened with O_NONBLOCK.
     bool ReadStream(std::string& strBytes) const
     {
@@ -190,6 +204,12 @@ bool KZCMacOSNative::readFile(const char* szPath, std::string& strBytes)
     // after.
     const FileHandle file(CText::OrEmpty(szPath), O_RDONLY | O_NONBLOCK);
     return file.IsOpen() && file.IsRegular() && file.ReadAll(strBytes);
+}
+
+bool KZCMacOSNative::readFile(const char* szPath, const PieceUse& use)
+{
+    const FileHandle file(CText::OrEmpty(szPath), O_RDONLY | O_NONBLOCK);
+    return file.IsOpen() && file.IsRegular() && file.ReadPieces(use);
 }
 
 KZCMacOSNative::ReadResult KZCMacOSNative::readStream(const char* szPath, std::string& strBytes)

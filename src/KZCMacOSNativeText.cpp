@@ -1,6 +1,7 @@
 // Text services: encodings, characters, trimming, numbers.
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "ByteClass.h"
 #include "CText.h"
@@ -12,6 +13,25 @@ namespace {
 /// The characters of general category Z above ASCII, beside U+2000 to U+200A.
 constexpr std::array<char16_t, 9> SEPARATORS = {0x0085, 0x00A0, 0x1680, 0x2028, 0x2029,
                                                 0x202F, 0x205F, 0x3000, 0x0020};
+
+/// A file up to this size, in bytes, is read in one piece.
+constexpr long WHOLE_FILE = 4'194'304;
+
+/// The file is valid Shift_JIS and doesn't begin with its end.
+bool IsShiftJisFile(const char* szPath)
+{
+    ShiftJis::Pieces pieces;
+    bool bValid = true;
+    bool bFirst = true;
+    bool bText = false;
+    const bool bRead = KZCMacOSNative::readFile(szPath, [&](std::string_view strPiece) {
+        if (std::exchange(bFirst, false))
+            bText = strPiece.front() != '\0';
+        bValid = ShiftJis::IsValid(pieces.Take(strPiece));
+        return bValid;
+    });
+    return bRead && bText && bValid && pieces.IsWhole();
+}
 
 constexpr bool IsAsciiWhiteSpace(char cByte)
 {
@@ -70,6 +90,29 @@ try {
     return *std::move(strText);
 } catch (...) {
     return {};  // no memory for it: a file that can't be read
+}
+
+bool KZCMacOSNative::readSJISPieces(const char* szPath, bool bUtf8, const PieceUse& use)
+{
+    if (getFileSize(szPath) <= WHOLE_FILE) {
+        const std::string strText = readSJISFile(szPath, bUtf8);
+        if (!strText.empty())
+            static_cast<void>(use(strText));
+        return !strText.empty();
+    }
+    if (!IsShiftJisFile(szPath))
+        return false;
+    ShiftJis::Pieces pieces;
+    bool bValid = true;
+    const bool bRead = readFile(szPath, [&](std::string_view strPiece) {
+        const std::string_view strBytes = pieces.Take(strPiece);
+        const std::size_t nEnd = strBytes.find('\0');
+        const std::string_view strWhole = strBytes.substr(0, nEnd);
+        const auto strText = bUtf8 ? ShiftJis::ToUtf8(strWhole) : ShiftJis::Canonical(strWhole);
+        bValid = strText.has_value();
+        return bValid && use(*strText) && nEnd == std::string_view::npos;
+    });
+    return bRead && bValid;
 }
 
 std::string KZCMacOSNative::convertUTF8fromShiftJIS(const char* szText)

@@ -6,6 +6,7 @@
 #include <initializer_list>
 #include <vector>
 
+#include "ByteClass.h"
 #include "CharsetConverter.h"
 
 namespace {
@@ -264,6 +265,29 @@ std::string ToUtf8Anyway(std::string_view strText)
             Utf8::AppendUnit(strOut, static_cast<char16_t>(nUnit));
     }
     return strOut;
+}
+
+bool IsValid(std::string_view strText)
+{
+    return ByteClass::IsAscii(strText) ||
+           ForEachUnit(strText, [](char16_t /*cUnit*/, unsigned /*nCode*/) {});
+}
+
+std::string_view Pieces::Take(std::string_view strPiece)
+{
+    constexpr unsigned char FIRST_TRAIL = 0x40;
+    const CodePage& codePage = CodePage::Get();
+    m_strBytes.erase(0, m_nTaken);
+    m_strBytes.append(strPiece);
+    // A byte below those that can be the second of two is a character's last one.
+    const auto pBelow = std::ranges::find_if(
+        m_strBytes.rbegin(), m_strBytes.rend(),
+        [](char cByte) { return static_cast<unsigned char>(cByte) < FIRST_TRAIL; });
+    auto nAt = static_cast<std::size_t>(m_strBytes.rend() - pBelow);
+    while (nAt < m_strBytes.size())
+        nAt += codePage.Unit(static_cast<unsigned char>(m_strBytes[nAt])) == NO_IMAGE ? 2 : 1;
+    m_nTaken = nAt == m_strBytes.size() ? nAt : m_strBytes.size() - 1;
+    return std::string_view(m_strBytes).substr(0, m_nTaken);
 }
 
 }  // namespace ShiftJis

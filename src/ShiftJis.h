@@ -27,6 +27,24 @@ std::optional<std::string> ToUtf8(std::string_view strText);
 /// The same with U+FFFD for each byte that is no part of a character.
 std::string ToUtf8Anyway(std::string_view strText);
 
+/// No byte sequence is invalid.
+bool IsValid(std::string_view strText);
+
+/// A text that comes in pieces, cut where a character ends.
+class Pieces
+{
+public:
+    /// \param strPiece  The next bytes, which may end inside a character.
+    /// \return What can be decoded by now. Valid until the next call.
+    std::string_view Take(std::string_view strPiece);
+    /// The text doesn't end inside a character.
+    bool IsWhole() const { return m_nTaken == m_strBytes.size(); }
+
+private:
+    std::string m_strBytes;
+    std::size_t m_nTaken = 0;  ///< of them in whole characters
+};
+
 }  // namespace ShiftJis
 
 namespace Utf8 {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "Fault.h"
+#include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/OpenFinanceCsv.h"
 #include "support/ShiftJisText.h"
@@ -257,6 +258,38 @@ TEST_F(CrossBorderCsvTest, ValidationFileInTheFolderOfFinanceDoesNotServe)
     std::filesystem::remove(m_bundle.Path("CrossBorder/PGE1650vld.xml"));
     OpenCrossBorderCsv csv;
     EXPECT_EQ(Read(csv, "301,1,a"), RAISES);
+}
+
+// ---- names in the log --------------------------------------------------------------------------
+
+TEST_F(CrossBorderCsvTest, UnreadableFileIsLoggedTwiceUnderTheReader)
+{
+    const DebugLog log;
+    OpenCrossBorderCsv csv;
+    EXPECT_EQ(Read(csv, ""), RAISES);
+    EXPECT_THAT(LogEntries(log),
+                testing::ElementsAre(LogEntry{"KZCEkaCsvFileCrossBorder::ReadFile",
+                                              "CSVファイルリードエラーが発生しました。"},
+                                     LogEntry{"KZCEkaCsvFileCrossBorder::ReadFile",
+                                              "想定外エラーが発生しました。"}));
+}
+
+TEST_F(CrossBorderCsvTest, InheritedOperationsLogUnderTheClassThatDefinesThem)
+{
+    const DebugLog log;
+    OpenCrossBorderCsv csv;
+    EXPECT_EQ(Read(csv, "999,1,a"), WRONG_TYPE_ID);
+    EXPECT_EQ(Read(csv, RepeatText("301,1,a\n", 1001)), PASSES);
+    EXPECT_EQ(Check(csv), TOO_MANY);
+    EXPECT_EQ(Read(csv, "301,1"), PASSES);
+    EXPECT_EQ(Check(csv), WRONG_COLUMNS);
+    EXPECT_THAT(LogEntries(log),
+                testing::ElementsAre(LogEntry{"KZCEkaCsvFileFinance::ValidateRecordFinance",
+                                              "手続情報が見つかりません。（HE70021E）"},
+                                     LogEntry{"KZCEkaCsvFileFinance::checkMaxRecord",
+                                              "CSVレコードの総件数エラーです。（HE70029E）"},
+                                     LogEntry{"KZCEkaCsvFileFinance::checkColumnCount",
+                                              "CSVのカラム数が不正です。（HE70019E）"}));
 }
 
 // ---- the check ---------------------------------------------------------------------------------

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "Fault.h"
+#include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/OpenFinanceCsv.h"
 #include "support/ShiftJisText.h"
@@ -452,6 +453,97 @@ TEST_F(FinanceCsvTest, LogShowsATypeIdInShiftJisReadably)
     EXPECT_TRUE(log.HasLine("record=0000 column=00001 value=青葉"));
 }
 
+// ---- names in the log --------------------------------------------------------------------------
+
+constexpr const char* READ_FILE = "KZCEkaCsvFileFinance::ReadFile";
+constexpr const char* VALIDATE_RECORD = "KZCEkaCsvFileFinance::ValidateRecordFinance";
+constexpr const char* CHECK_MAX_RECORD = "KZCEkaCsvFileFinance::checkMaxRecord";
+constexpr const char* CHECK_COLUMN_COUNT = "KZCEkaCsvFileFinance::checkColumnCount";
+
+TEST_F(FinanceCsvTest, UnreadableFileIsLoggedTwiceUnderTheReader)
+{
+    const DebugLog log;
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, ""), RAISES);
+    EXPECT_THAT(LogEntries(log),
+                testing::ElementsAre(LogEntry{READ_FILE, "CSVファイルリードエラーが発生しました。"},
+                                     LogEntry{READ_FILE, "想定外エラーが発生しました。"}));
+}
+
+TEST_F(FinanceCsvTest, BrokenValidationFileIsLoggedUnderTheRecordAndThenUnderTheReader)
+{
+    m_bundle.Write("Finance/PGE2015vld.xml", "broken");
+    const DebugLog log;
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "101,1,a"), RAISES);
+    const std::vector<LogEntry> vecEntry = LogEntries(log);
+    ASSERT_GE(vecEntry.size(), 2u);
+    EXPECT_EQ(vecEntry[vecEntry.size() - 2],
+              (LogEntry{VALIDATE_RECORD, "定義体の読み込みでエラーが発生しました。"}));
+    EXPECT_EQ(vecEntry.back(), (LogEntry{READ_FILE, "想定外エラーが発生しました。"}));
+}
+
+TEST_F(FinanceCsvTest, OtherCallTypeIsLoggedUnderTheCatalogueAndThenUnderTheReader)
+{
+    const DebugLog log;
+    OpenFinanceCsv csv(static_cast<CALL_TYPE>(3));
+    EXPECT_EQ(Read(csv, "101,1,a"), RAISES);
+    EXPECT_THAT(LogEntries(log),
+                testing::ElementsAre(LogEntry{"getProcInfo", "想定外動作モード"},
+                                     LogEntry{READ_FILE, "想定外エラーが発生しました。"}));
+}
+
+struct NameCase
+{
+    const char* szName;
+    std::string strText;
+    LogEntry entry;
+};
+
+void PrintTo(const NameCase& testCase, std::ostream* pStream)
+{
+    *pStream << testCase.szName;
+}
+
+class FinanceCsvLogNameTest : public FinanceCsvTest, public testing::WithParamInterface<NameCase>
+{};
+
+TEST_P(FinanceCsvLogNameTest, RefusalIsLoggedOnceUnderItsOperation)
+{
+    m_bundle.Write("Finance/PGE2025vld.xml", "<define/>");
+    m_bundle.Write("Finance/PGE2040vld.xml", ReportFile({""}));
+    const DebugLog log;
+    OpenFinanceCsv csv;
+    if (Read(csv, GetParam().strText) == PASSES)
+        EXPECT_THAT(Check(csv), testing::StartsWith(REFUSES));
+    EXPECT_THAT(LogEntries(log), testing::ElementsAre(GetParam().entry));
+}
+
+const NameCase NAME_CASES[] = {
+    {"UnknownTypeId", "999,1", {VALIDATE_RECORD, "手続情報が見つかりません。（HE70021E）"}},
+    {"NoReport",
+     "102,1",
+     {VALIDATE_RECORD, "定義体から対応する申請番号種別が見つかりません（HE70021E）"}},
+    {"SecondTypeId",
+     "101,1,a\n102,1,a",
+     {VALIDATE_RECORD, "CSV内で申請番号が統一されていません。（HE70021E）"}},
+    {"OnlyBlankRecords",
+     "\n",
+     {CHECK_MAX_RECORD, "CSVデータに有効なレコードが存在しません。（HE70024E）"}},
+    {"TooManyRecords",
+     RepeatText("101,1,a\n", 1001),
+     {CHECK_MAX_RECORD, "CSVレコードの総件数エラーです。（HE70029E）"}},
+    {"TooFewRecords",
+     "103,1,a",
+     {CHECK_MAX_RECORD, "2レコード目以降の入力が必要です。（HE70033E）"}},
+    {"WrongColumns", "101,1", {CHECK_COLUMN_COUNT, "CSVのカラム数が不正です。（HE70019E）"}},
+    {"NoColumnCount",
+     "104,1",
+     {CHECK_COLUMN_COUNT, "定義体の内容が不正です。CSVのカラム数を取得できません。（HE70019E）"}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Files, FinanceCsvLogNameTest, testing::ValuesIn(NAME_CASES), CaseName());
+
 // ---- other families ----------------------------------------------------------------------------
 
 class FinanceCsvOtherCallTypeTest : public FinanceCsvTest, public testing::WithParamInterface<int>
@@ -726,8 +818,8 @@ protected:
 
 TEST_P(FinanceCsvEmptyRecordTest, IsEmptySo)
 {
-    EXPECT_EQ(m_csv.IsEmptyAt(0), GetParam().bEmpty);
-    EXPECT_EQ(m_csv202.IsEmptyAt(0), GetParam().bEmptyIn202);
+    EXPECT_EQ(m_csv.isEmptyRecord(0), GetParam().bEmpty);
+    EXPECT_EQ(m_csv202.isEmptyRecord(0), GetParam().bEmptyIn202);
 }
 
 TEST_P(FinanceCsvEmptyRecordTest, CountsUnlessItIsEmpty)
@@ -963,6 +1055,122 @@ TEST_F(FinanceCsvTest, LimitIsTestedBeforeAllElse)
     EXPECT_EQ(
         Check(OpenFinanceCsv(vecRecord, "108", ColInfos{{0, 0, 2, 0}, {0, 0, 2, 0}, {0, 0, 2, 0}})),
         TOO_MANY);
+}
+
+TEST_F(FinanceCsvTest, RecordsOfCommasCountAgainstTheLimitOfAFileWithTypeId202)
+{
+    m_bundle.Write("Finance/PGE1640vld.xml",
+                   ReportFile({R"(startRow="1" endRow="1" columnNum="2")",
+                               R"(startRow="2" endRow="0" columnNum="2")"}));
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "202,1\n" + RepeatText(",\n", 999)), PASSES);
+    EXPECT_EQ(csv.GetNonCRLFRecordCount(), 1000);
+    EXPECT_EQ(Check(csv), PASSES);
+    EXPECT_EQ(Read(csv, "202,1\n" + RepeatText(",\n", 1000)), PASSES);
+    const DebugLog log;
+    EXPECT_EQ(Check(csv), TOO_MANY);
+    EXPECT_THAT(LogMessages(log),
+                testing::ElementsAre(
+                    "CSVレコードの総件数エラーです。（HE70029E）",
+                    "Valid Message[HE70029E]  "
+                    "作成可能なCSVレコード数を超えてしまうため、読み込むことができません。",
+                    "record=0000 column=00000 value=1001"));
+}
+
+TEST_F(FinanceCsvTest, RecordsOfCommasOfAFileWithTypeId202AreKeptForTheDocument)
+{
+    m_bundle.Write("Finance/PGE1640vld.xml", ReportFile({R"(columnNum="2")", R"(columnNum="2")"}));
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "202,1\n,\n,x\n"), PASSES);
+    csv.DeleteEmptyRecord();
+    EXPECT_EQ(csv.GetRecords(), (Records{{"202", "1"}, {"", ""}, {"", "x"}}));
+    EXPECT_TRUE(csv.IsValidRecord(1));
+}
+
+TEST_F(FinanceCsvTest, SameRecordsWithAnotherTypeIdAreNot)
+{
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "103,1\n,\n,x\n"), PASSES);
+    EXPECT_FALSE(csv.IsValidRecord(1));
+    EXPECT_TRUE(csv.IsValidRecord(2));
+    csv.DeleteEmptyRecord();
+    EXPECT_EQ(csv.GetRecords(), (Records{{"103", "1"}}));
+}
+
+// ---- check: files that are too large -----------------------------------------------------------
+
+/// Records of which 1,000 take more than ten mebibytes.
+std::string WideLines(const char* szTypeId, int nCount)
+{
+    return RepeatText(std::string(szTypeId) + ",1," + std::string(11'000, 'x') + "\n", nCount);
+}
+
+TEST_F(FinanceCsvTest, LargeFileOfTooManyRecordsIsCountedToItsEnd)
+{
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, WideLines("101", 1'003) + "\n101,1\n101,1,a,b"), PASSES);
+    EXPECT_EQ(csv.GetRecordCount(), 1'005);
+    EXPECT_STREQ(csv.GetItem(1'000, 1), "1");
+    EXPECT_STREQ(csv.GetItem(1'001, 1), "");
+    const DebugLog log;
+    EXPECT_EQ(Check(csv), TOO_MANY);
+    EXPECT_THAT(LogMessages(log),
+                testing::ElementsAre(
+                    "CSVレコードの総件数エラーです。（HE70029E）",
+                    "Valid Message[HE70029E]  "
+                    "作成可能なCSVレコード数を超えてしまうため、読み込むことができません。",
+                    "record=0000 column=00000 value=1005"));
+}
+
+TEST_F(FinanceCsvTest, RecordsBeyondTheLimitOfALargeFileAreStillCompared)
+{
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, WideLines("101", 1'003) + "102,1,a"), WRONG_TYPE_ID);
+    EXPECT_EQ(Read(csv, WideLines("101", 1'003) + ",,"), WRONG_TYPE_ID);
+}
+
+TEST_F(FinanceCsvTest, RecordsOfALargeFileThatDoNotCountAreHeld)
+{
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "103,1,a\n" + WideLines("", 1'003) + "5,b"), PASSES);
+    EXPECT_EQ(csv.GetRecordCount(), 1'005);
+    EXPECT_EQ(csv.GetNonCRLFRecordCount(), 2);
+    EXPECT_STREQ(csv.GetItem(1'003, 1), "1");
+    EXPECT_STREQ(csv.GetItem(1'004, 1), "b");
+}
+
+TEST_F(FinanceCsvTest, LimitOfALargeFileIsThatOfItsProcedure)
+{
+    m_bundle.Write("Finance/PGE2080vld.xml", ReportFile({R"(columnNum="3")", R"(columnNum="3")"}));
+    OpenFinanceCsv csv;
+    const std::string strWide = "108,1," + std::string(11'000'000, 'x') + "\n";
+    EXPECT_EQ(Read(csv, strWide + ",,x\n" + strWide + "a,b,c\n,,y"), PASSES);
+    EXPECT_EQ(csv.GetRecordCount(), 5);
+    EXPECT_EQ(csv.GetNonCRLFRecordCount(), 3);
+    EXPECT_STREQ(csv.GetItem(2, 1), "1");
+    EXPECT_STREQ(csv.GetItem(3, 1), "");
+    EXPECT_EQ(Check(csv), TOO_MANY);
+}
+
+TEST_F(FinanceCsvTest, RecordsBeyondTheLimitOfALargeFileWithTypeId202AllCount)
+{
+    m_bundle.Write("Finance/PGE1640vld.xml", ReportFile({R"(columnNum="3")", R"(columnNum="3")"}));
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "202,1,a\n" + WideLines("", 1'003) + RepeatText(",,\n", 7)), PASSES);
+    EXPECT_EQ(csv.GetNonCRLFRecordCount(), 1'011);
+    EXPECT_STREQ(csv.GetItem(1'001, 1), "");
+    const DebugLog log;
+    EXPECT_EQ(Check(csv), TOO_MANY);
+    EXPECT_TRUE(log.HasLine("record=0000 column=00000 value=1011"));
+}
+
+TEST_F(FinanceCsvTest, ColumnsOfARecordAreCountedToItsEndHoweverManyThereAre)
+{
+    OpenFinanceCsv csv;
+    EXPECT_EQ(Read(csv, "101" + std::string(300'000, ',')), PASSES);
+    const DebugLog log;
+    EXPECT_EQ(Check(csv), WRONG_COLUMNS);
+    EXPECT_TRUE(log.HasLine("record=0000 column=00000 value=300001"));
 }
 
 // ---- check: a record for each report -----------------------------------------------------------

@@ -15,6 +15,7 @@
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"
+#include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/Raised.h"
 #include "support/ResetState.h"
@@ -30,7 +31,7 @@ using Records = std::vector<Record>;
 class OpenCsv : public KZCEkaCsvFile
 {
 public:
-    const Records& GetRecords() const { return m_vecRecord; }
+    Records GetRecords() const { return m_table.Records(); }
     const std::map<std::int64_t, std::string>& GetGenerations() const { return m_mapGeneration; }
     std::int64_t GetColumnNum() const { return m_nColumnNum; }
 };
@@ -212,15 +213,24 @@ TEST_F(CsvFileTest, EndOfRecordStoresAndEmptiesTheRecord)
     EXPECT_EQ(csv.GetRecords(), (Records{{"a", "b"}}));
 }
 
-TEST_F(CsvFileTest, EndOfARefusedRecordStoresNothing)
+TEST_F(CsvFileTest, EndOfARefusedRecordStoresNothingAndLeavesItInPlace)
 {
     UncheckedCsv csv;
-    std::string strBuffer = "b";
+    std::string strBuffer = " b ";
     Record record = {"stop"};
     EXPECT_EQ(csv.ColumnTerm(strBuffer, record, true), STATUS_NG);
     EXPECT_EQ(strBuffer, "");
     EXPECT_EQ(record, (Record{"stop", "b"}));
     EXPECT_EQ(csv.GetRecords(), Records{});
+}
+
+TEST_F(CsvFileTest, EndOfAColumnNeverAsksAboutTheRecord)
+{
+    UncheckedCsv csv;
+    std::string strBuffer = "b";
+    Record record = {"stop"};
+    EXPECT_EQ(csv.ColumnTerm(strBuffer, record, false), STATUS_OK);
+    EXPECT_EQ(record, (Record{"stop", "b"}));
 }
 
 // ---- reading -----------------------------------------------------------------------------------
@@ -514,6 +524,102 @@ TEST_F(CsvFileTest, CommentInFrontOfTheRootOfTheIndexHidesEveryReport)
     EXPECT_EQ(Read(csv, "003,1,a"), "refuses 0000-00001-HE70021E");
 }
 
+TEST_F(CsvFileTest, OnlyTheFirstRecordReadsTheIndex)
+{
+    OpenCsv csv;
+    EXPECT_EQ(csv.Parse("003,1,a", false), STATUS_OK);
+    m_bundle.Write("KZEkaDefine.xml", "broken");
+    EXPECT_EQ(csv.Parse("003,2,b", false), STATUS_OK);
+    EXPECT_EQ(csv.GetRecords(), (Records{{"003", "1", "a"}, {"003", "2", "b"}}));
+}
+
+TEST_F(CsvFileTest, SecondReadingReadsTheIndexAgain)
+{
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, "003,1,a"), PASSES);
+    m_bundle.Write("KZEkaDefine.xml", R"(<x><report id="003" columnNum="2"/></x>)");
+    EXPECT_EQ(Read(csv, "003,1,a"), "refuses 0000-00000-HE70019E");
+    EXPECT_EQ(Read(csv, "003,1"), PASSES);
+}
+
+// ---- names in the log --------------------------------------------------------------------------
+
+constexpr const char* READ_FILE = "KZCEkaCsvFile::ReadFile";
+constexpr const char* VALIDATE_RECORD = "KZCEkaCsvFile::ValidateRecord";
+
+TEST_F(CsvFileTest, UnreadableFileIsLoggedTwiceUnderTheReader)
+{
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, ""), RAISES);
+    EXPECT_THAT(LogEntries(log),
+                testing::ElementsAre(LogEntry{READ_FILE, "CSVファイルリードエラーが発生しました。"},
+                                     LogEntry{READ_FILE, "想定外エラーが発生しました。"}));
+}
+
+TEST_F(CsvFileTest, NullTextIsLoggedUnderTheParser)
+{
+    const DebugLog log;
+    UncheckedCsv csv;
+    EXPECT_EQ(Raised([&] { static_cast<void>(csv.Parse(nullptr, true)); }), FAULT);
+    EXPECT_THAT(LogEntries(log), testing::ElementsAre(LogEntry{"KZCEkaCsvFile::Parse",
+                                                               "引数のポインタが不正です。"}));
+}
+
+TEST_F(CsvFileTest, BrokenIndexIsLoggedUnderTheRecordAndThenUnderTheReader)
+{
+    m_bundle.Write("KZEkaDefine.xml", "broken");
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, "003,1,a"), RAISES);
+    const std::vector<LogEntry> vecEntry = LogEntries(log);
+    ASSERT_GE(vecEntry.size(), 2u);
+    EXPECT_EQ(vecEntry[vecEntry.size() - 2],
+              (LogEntry{VALIDATE_RECORD, "定義体の読み込みでエラーが発生しました。"}));
+    EXPECT_EQ(vecEntry.back(), (LogEntry{READ_FILE, "想定外エラーが発生しました。"}));
+}
+
+struct NameCase
+{
+    const char* szName;
+    std::string strText;
+    LogEntry entry;
+};
+
+void PrintTo(const NameCase& testCase, std::ostream* pStream)
+{
+    *pStream << testCase.szName;
+}
+
+class CsvLogNameTest : public CsvFileTest, public testing::WithParamInterface<NameCase>
+{};
+
+TEST_P(CsvLogNameTest, RefusalIsLoggedOnceUnderItsOperation)
+{
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_THAT(Read(csv, GetParam().strText), testing::StartsWith(REFUSES));
+    EXPECT_THAT(LogEntries(log), testing::ElementsAre(GetParam().entry));
+}
+
+const NameCase NAME_CASES[] = {
+    {"UnknownTypeId",
+     "099,1,a",
+     {VALIDATE_RECORD, "定義体から対応する申請番号種別が見つかりません（HE70021E）"}},
+    {"SecondTypeId",
+     "003,1,a\n004,1,a",
+     {VALIDATE_RECORD, "CSV内で申請番号が統一されていません。（HE70021E）"}},
+    {"WrongColumns", "003,1", {VALIDATE_RECORD, "CSVのカラム数が不正です。（HE70019E）"}},
+    {"TooManyRecords",
+     Repeat("003,1,a\n", 5001),
+     {READ_FILE, "CSVレコードの総件数エラーです。（HE70020E）"}},
+    {"OnlyBlankRecords",
+     "\n",
+     {READ_FILE, "CSVデータに有効なレコードが存在しません。（HE70024E）"}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Files, CsvLogNameTest, testing::ValuesIn(NAME_CASES), CaseName());
+
 // ---- refused records ---------------------------------------------------------------------------
 
 TEST_F(CsvFileTest, TypeIdThatTheIndexLacksIsRefused)
@@ -696,6 +802,117 @@ TEST_F(CsvFileTest, EveryOneOfFiveThousandRecordsGetsAGeneration)
     EXPECT_EQ(Read(csv, Lines(5000)), PASSES);
     EXPECT_EQ(csv.GetGenerations().size(), 5000u);
     EXPECT_EQ(csv.GetRecordGeneration(4999), "senior");
+}
+
+// ---- files that are too large ------------------------------------------------------------------
+
+TEST_F(CsvFileTest, ColumnsOfARecordAreCountedToItsEndHoweverManyThereAre)
+{
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, "003" + std::string(300'000, ',') + "\n004"),
+              "refuses 0000-00000-HE70019E");
+    EXPECT_THAT(LogMessages(log),
+                testing::ElementsAre("CSVのカラム数が不正です。（HE70019E）",
+                                     "Valid Message[HE70019E]  "
+                                     "申請区分に対するCSVのフォーマットが正しくありません。",
+                                     "record=0000 column=00000 value=300001"));
+}
+
+TEST_F(CsvFileTest, RecordOfCommasAloneIsRefusedForItsTypeIdHoweverManyThereAre)
+{
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, std::string(300'000, ',')), "refuses 0000-00001-HE70021E");
+    EXPECT_THAT(LogMessages(log),
+                testing::ElementsAre(
+                    "定義体から対応する申請番号種別が見つかりません（HE70021E）",
+                    "Valid Message[HE70021E]  CSVファイルに異なる申請区分の情報が含まれています。",
+                    "record=0000 column=00001 value="));
+}
+
+TEST_F(CsvFileTest, RecordMayHaveMoreColumnsThanAreHeldIfTheIndexSaysSo)
+{
+    m_bundle.Write("KZEkaDefine.xml", R"(<x><report id="003" columnNum="262146"/></x>)");
+    OpenCsv csv;
+    const std::string strLine = "003" + std::string(262'142, ',') + ",held,beyond,";
+    EXPECT_EQ(Read(csv, strLine + "\n" + strLine), PASSES);
+    EXPECT_STREQ(csv.GetItem(1, 262'143), "held");
+    EXPECT_STREQ(csv.GetItem(1, 262'144), "");
+    EXPECT_EQ(Read(csv, strLine + "\n" + strLine + ","), "refuses 0000-00000-HE70019E");
+}
+
+/// Records of which 4,000 take ten mebibytes.
+std::string WideLines(int nCount)
+{
+    return Repeat("003,1," + std::string(2'600, 'x') + "\n", nCount);
+}
+
+TEST_F(CsvFileTest, LargeFileOfTooManyRecordsIsCountedToItsEndAndHeldToTheLimit)
+{
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, WideLines(5'300)), TOO_MANY);
+    EXPECT_THAT(LogMessages(log),
+                testing::ElementsAre("CSVレコードの総件数エラーです。（HE70020E）",
+                                     "Valid Message[HE70020E]  "
+                                     "作成可能なデータ数(5000件)を超えてしまうため、"
+                                     "読み込むことができません。",
+                                     "record=0000 column=00000 value=5301"));
+    EXPECT_EQ(csv.GetRecordCount(), 5'301);
+    EXPECT_EQ(csv.GetNonCRLFRecordCount(), 5'300);
+    EXPECT_STREQ(csv.GetItem(5'000, 1), "1");
+    EXPECT_STREQ(csv.GetItem(5'001, 0), "");
+    EXPECT_FALSE(csv.IsValidRecord(5'001));
+}
+
+TEST_F(CsvFileTest, LargeFileWithinTheLimitIsHeldWhole)
+{
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, WideLines(5'000)), PASSES);
+    EXPECT_EQ(csv.GetRecordCount(), 5'001);
+    EXPECT_STREQ(csv.GetItem(4'999, 2), std::string(2'600, 'x').c_str());
+    EXPECT_EQ(csv.GetRecordGeneration(4'999), "senior");
+}
+
+TEST_F(CsvFileTest, RecordsBeyondTheLimitOfALargeFileAreStillChecked)
+{
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, WideLines(5'300) + "003,1"), "refuses 0000-00000-HE70019E");
+    EXPECT_EQ(Read(csv, WideLines(5'300) + "003,1,a,b"), "refuses 0000-00000-HE70019E");
+    EXPECT_EQ(Read(csv, WideLines(5'300) + "004,1,a"), "refuses 0000-00001-HE70021E");
+    EXPECT_EQ(Read(csv, WideLines(5'300) + ",1,a"), "refuses 0000-00001-HE70021E");
+    EXPECT_EQ(Read(csv, WideLines(5'300) + " \n 003 ,1,a"), TOO_MANY);
+    EXPECT_EQ(csv.GetRecordCount(), 5'302);
+}
+
+TEST_F(CsvFileTest, FileAfterALargeOneIsHeldAgain)
+{
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, WideLines(5'300)), TOO_MANY);
+    EXPECT_EQ(Read(csv, "003,1,a"), PASSES);
+    EXPECT_EQ(csv.GetRecords(), (Records{{"003", "1", "a"}}));
+}
+
+TEST_F(CsvFileTest, InvalidByteAtTheEndOfALargeFileComesBeforeItsRefusedRecords)
+{
+    const DebugLog log;
+    OpenCsv csv;
+    EXPECT_EQ(Read(csv, WideLines(2'000) + "099,1\n\x82"), RAISES);
+    EXPECT_THAT(LogMessages(log), testing::ElementsAre("CSVファイルリードエラーが発生しました。",
+                                                       "想定外エラーが発生しました。"));
+    EXPECT_EQ(csv.GetRecordCount(), 0);
+}
+
+TEST_F(CsvFileTest, TextBehindANulOfALargeFileIsLost)
+{
+    OpenCsv csv;
+    std::string strBytes = "003,1,a\n003,2,b";
+    strBytes.append(5'000'000, '\0').append("\n099,1\n");
+    EXPECT_EQ(Read(csv, strBytes), PASSES);
+    EXPECT_EQ(csv.GetRecords(), (Records{{"003", "1", "a"}, {"003", "2", "b"}}));
+    EXPECT_EQ(Read(csv, strBytes + "\x82"), RAISES);
+    EXPECT_EQ(Read(csv, std::string(5'000'000, '\0') + "003,1,a"), RAISES);
 }
 
 // ---- cells and records -------------------------------------------------------------------------

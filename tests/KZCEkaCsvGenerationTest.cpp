@@ -8,6 +8,7 @@
 #include "KZCEkaCsvFile.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"
+#include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
@@ -122,6 +123,7 @@ const GenerationCase BY_DATE[] = {
      {{2, "4"}, {3, "1"}, {4, "1"}, {5, "1"}, {23, "a"}},
      "junior"},
     {"GoodDateWithoutEither", "001", {{2, "4"}, {3, "1"}, {4, "1"}, {5, "1"}}, "junior"},
+    {"April3WithoutEither", "001", {{2, "5"}, {3, "3"}, {4, "4"}, {5, "1"}}, "junior"},
     {"LateDateWithoutEither", "001", {{2, "5"}, {3, "3"}, {4, "3"}, {5, "32"}}, "junior"},
     {"NeighboursOfColumns23And24DoNotCount",
      "001",
@@ -323,6 +325,68 @@ INSTANTIATE_TEST_SUITE_P(Cells,
                          CsvReferenceNumberTest,
                          testing::ValuesIn(NUMBER_CASES),
                          CaseName());
+
+/// The check items that log a refusal, by the names in the log, when a cell is pre-checked.
+struct OrderCase
+{
+    const char* szName;
+    const char* szCell;
+    std::vector<std::string> vecRefusedBy;
+};
+
+void PrintTo(const OrderCase& testCase, std::ostream* pStream)
+{
+    *pStream << testCase.szName;
+}
+
+std::vector<std::string> Functions(const DebugLog& log)
+{
+    std::vector<std::string> vecFunction;
+    for (const LogEntry& entry : LogEntries(log))
+        if (entry.strFunction != "KZCEkaValidExist::_validate")
+            vecFunction.push_back(entry.strFunction);
+    return vecFunction;
+}
+
+class CsvReferenceOrderTest : public ResetState, public testing::WithParamInterface<OrderCase>
+{};
+
+TEST_P(CsvReferenceOrderTest, FirstCheckThatRefusesIsTheLast)
+{
+    const GenerationCsv csv = MakeCsv("002", {{19, GetParam().szCell}});
+    const DebugLog log;
+    static_cast<void>(csv.preCheckNumber(0, 19));
+    EXPECT_EQ(Functions(log), GetParam().vecRefusedBy);
+}
+
+// Each cell but the first fails at every check from the one that is named on.
+const OrderCase ORDER_CASES[] = {
+    {"EmptyIsLeftToThePresence", "", {}},
+    {"LetterIsLeftToTheDigits", "3a", {"KZCEkaValidNumber::_validate"}},
+    {"LengthIsLeftToTheLength", "30000", {"KZCEkaValidLength::_validate"}},
+    {"DigitIsLeftToTheCheckDigit", "30000000000003", {"KZCEkaValidCheckDigit::_validate"}},
+    {"WellFormed", "30000000000002", {}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Cells, CsvReferenceOrderTest, testing::ValuesIn(ORDER_CASES), CaseName());
+
+TEST_F(CsvGenerationTest, FirstDigitIsLookedAtBehindThePreChecks)
+{
+    GenerationCsv csv = MakeCsv("002", {{19, "30000000000003"}});
+    const DebugLog log;
+    csv.checkGeneration(0);
+    EXPECT_THAT(Functions(log), testing::ElementsAre("KZCEkaValidCheckDigit::_validate"));
+}
+
+TEST_F(CsvGenerationTest, FirstDigitIsLookedAtBeforeTheOtherColumns)
+{
+    for (const char* szTypeId : {"002", "008"}) {
+        GenerationCsv csv = MakeCsv(szTypeId, {{2, "x"}, {19, NUMBER_OF_3}});
+        const DebugLog log;
+        csv.checkGeneration(0);
+        EXPECT_THAT(Functions(log), testing::ElementsAre("KZCEkaValidDigitEquality::_validate"));
+    }
+}
 
 TEST_F(CsvGenerationTest, ReferenceNumberOutOfRangeIsNone)
 {

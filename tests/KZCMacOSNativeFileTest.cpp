@@ -7,6 +7,9 @@
 #include <unistd.h>
 
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
 
 #include "KZCMacOSNative.h"
 #include "support/Environment.h"
@@ -99,6 +102,93 @@ TEST_F(KZCMacOSNativeFileTest, ReadSJISFileTakesAJapanesePath)
 {
     const std::string strPath = m_folder.Write("申請/国税.csv", "a");
     EXPECT_EQ(KZCMacOSNative::readSJISFile(strPath.c_str(), true), "a");
+}
+
+/// A text whose two-byte characters lie across every place where a piece may end.
+std::string LargeShiftJis()
+{
+    std::string strBytes = "a";
+    while (strBytes.size() < 5'000'000)
+        strBytes += "\x82\xA0\x95\x5C\xED\x40";
+    return strBytes + ",b";
+}
+
+/// The pieces joined; nothing if the file can't be read.
+std::optional<std::string> ReadPieces(const std::string& strPath, bool bUtf8)
+{
+    std::string strText;
+    const bool bRead =
+        KZCMacOSNative::readSJISPieces(strPath.c_str(), bUtf8, [&](std::string_view strPiece) {
+            strText += strPiece;
+            return true;
+        });
+    if (bRead)
+        return strText;
+    EXPECT_EQ(strText, "") << "pieces of a file that can't be read";
+    return std::nullopt;
+}
+
+TEST_F(KZCMacOSNativeFileTest, PiecesOfASmallFileAreItsText)
+{
+    const std::string strPath = m_folder.Write("a.csv", std::string_view("\x82\xA0,\0b", 5));
+    EXPECT_EQ(ReadPieces(strPath, true), "あ,");
+    EXPECT_EQ(ReadPieces(strPath, false), "\x82\xA0,");
+}
+
+TEST_F(KZCMacOSNativeFileTest, PiecesOfALargeFileAreItsText)
+{
+    const std::string strPath = m_folder.Write("a.csv", LargeShiftJis());
+    for (const bool bUtf8 : {true, false}) {
+        const std::string strExpected = KZCMacOSNative::readSJISFile(strPath.c_str(), bUtf8);
+        EXPECT_TRUE(strExpected.ends_with(",b"));
+        EXPECT_TRUE(ReadPieces(strPath, bUtf8) == strExpected) << bUtf8;
+    }
+}
+
+TEST_F(KZCMacOSNativeFileTest, PiecesOfALargeFileEndAtTheFirstNul)
+{
+    const std::string strBytes = LargeShiftJis();
+    const std::string strPath =
+        m_folder.Write("a.csv", strBytes + std::string(1, '\0') + strBytes + "c");
+    const auto strText = ReadPieces(strPath, false);
+    ASSERT_TRUE(strText);
+    EXPECT_TRUE(*strText == KZCMacOSNative::readSJISFile(strPath.c_str(), false));
+    EXPECT_EQ(strText->size(), strBytes.size());
+}
+
+TEST_F(KZCMacOSNativeFileTest, NoPieceOfALargeFileComesThatHoldsAnInvalidSequence)
+{
+    const std::string strBytes = LargeShiftJis();
+    for (const std::string& strEnd :
+         {std::string("\x82"), std::string("\xFF\n"), std::string("\0\x82,", 3)}) {
+        const std::string strPath = m_folder.Write("a.csv", strBytes + strEnd);
+        EXPECT_EQ(ReadPieces(strPath, true), std::nullopt);
+        EXPECT_EQ(ReadPieces(strPath, false), std::nullopt);
+    }
+}
+
+TEST_F(KZCMacOSNativeFileTest, LargeFileThatBeginsWithANulHasNoText)
+{
+    const std::string strPath = m_folder.Write("a.csv", std::string(5'000'000, '\0') + "a");
+    EXPECT_EQ(ReadPieces(strPath, true), std::nullopt);
+}
+
+TEST_F(KZCMacOSNativeFileTest, MissingFileFolderAndPipeHaveNoPieces)
+{
+    EXPECT_EQ(ReadPieces(m_folder.Path("none.csv"), true), std::nullopt);
+    EXPECT_EQ(ReadPieces(m_folder.Path(), true), std::nullopt);
+    const std::string strPipe = m_folder.Path("pipe");
+    ASSERT_EQ(::mkfifo(strPipe.c_str(), 0600), 0);
+    EXPECT_FALSE(KZCMacOSNative::readFile(strPipe.c_str(), [](std::string_view) { return true; }));
+}
+
+TEST_F(KZCMacOSNativeFileTest, UseEndsTheReadingOfALargeFile)
+{
+    const std::string strPath = m_folder.Write("a.csv", LargeShiftJis());
+    int nPieces = 0;
+    EXPECT_TRUE(KZCMacOSNative::readSJISPieces(strPath.c_str(), true,
+                                               [&](std::string_view) { return ++nPieces < 3; }));
+    EXPECT_EQ(nPieces, 3);
 }
 
 struct UnreadableCase

@@ -428,6 +428,52 @@ INSTANTIATE_TEST_SUITE_P(Texts,
                          testing::ValuesIn(UTF8_INVALID_CASES),
                          [](const auto& testCase) { return std::string(testCase.param.szName); });
 
+TEST(ShiftJisPiecesTest, CharactersStayWholeWhereverTheTextIsCut)
+{
+    // Trail bytes that are lead bytes too, that are letters, and that are single characters.
+    const std::string strText = ToShiftJis("a表ソ,ｱ貶あ髙\n能") + "\x83\x83\x83\x83";
+    for (std::size_t nCut = 0; nCut <= strText.size(); ++nCut) {
+        ShiftJis::Pieces pieces;
+        std::string strTaken(pieces.Take(std::string_view(strText).substr(0, nCut)));
+        EXPECT_TRUE(ShiftJis::IsValid(strTaken)) << nCut;
+        EXPECT_LE(nCut - strTaken.size(), 1u) << nCut;
+        const std::string strRest(pieces.Take(std::string_view(strText).substr(nCut)));
+        EXPECT_TRUE(ShiftJis::IsValid(strRest)) << nCut;
+        EXPECT_TRUE(pieces.IsWhole());
+        EXPECT_EQ(strTaken + strRest, strText) << nCut;
+    }
+}
+
+TEST(ShiftJisPiecesTest, LeadByteAtTheEndIsNeverTaken)
+{
+    ShiftJis::Pieces pieces;
+    EXPECT_EQ(pieces.Take("ab\x82"), "ab");
+    EXPECT_FALSE(pieces.IsWhole());
+    EXPECT_EQ(pieces.Take(""), "");
+    EXPECT_FALSE(pieces.IsWhole());
+    EXPECT_EQ(pieces.Take("\xA0"), "\x82\xA0");
+    EXPECT_TRUE(pieces.IsWhole());
+}
+
+TEST(ShiftJisPiecesTest, LeadByteBeforeANoTrailByteStaysWithItAndIsInvalid)
+{
+    ShiftJis::Pieces pieces;
+    EXPECT_EQ(pieces.Take("a\x82"), "a");
+    const std::string_view strTaken = pieces.Take(",b");
+    EXPECT_EQ(strTaken, "\x82,b");
+    EXPECT_FALSE(ShiftJis::IsValid(strTaken));
+}
+
+TEST(ShiftJisPiecesTest, ValidTextIsTheOneThatCanBeDecoded)
+{
+    EXPECT_TRUE(ShiftJis::IsValid(""));
+    EXPECT_TRUE(ShiftJis::IsValid("abc"));
+    EXPECT_TRUE(ShiftJis::IsValid(ToShiftJis("青葉")));
+    EXPECT_FALSE(ShiftJis::IsValid("a\x82"));
+    EXPECT_FALSE(ShiftJis::IsValid("\xFF"));
+    EXPECT_FALSE(ShiftJis::IsValid("\x82,"));
+}
+
 TEST(Utf8Test, ALoneHighSurrogateIsNotEncoded)
 {
     EXPECT_EQ(Utf8::Encode(std::u16string(1, u'\xD842')), std::nullopt);

@@ -24,13 +24,7 @@ template <class File>
 class OpenReader final : public File
 {
 public:
-    Table Records() const
-    {
-        Table records;
-        for (const auto& record : this->m_vecRecord)
-            records.emplace_back(record.begin(), record.end());
-        return records;
-    }
+    Table Records() const { return this->m_table.Records(); }
 };
 
 template <class File>

@@ -1,5 +1,8 @@
 #include "AllocationFault.h"
 
+#include <malloc.h>
+
+#include <algorithm>
 #include <cstdlib>
 #include <new>
 
@@ -11,6 +14,9 @@ std::size_t g_nNumber = 0;
 std::size_t g_nLeastSize = 0;
 std::size_t g_nCount = 0;
 std::size_t g_nLive = 0;
+std::size_t g_nLiveBytes = 0;
+std::size_t g_nBytesBefore = 0;
+std::size_t g_nPeakBytes = 0;
 
 bool Fails(std::size_t nSize)
 {
@@ -35,8 +41,11 @@ void* Allocate(std::size_t nSize, std::size_t nAlignment = 0) noexcept
         pMemory = std::malloc(nBytes);
     else if (::posix_memalign(&pMemory, nAlignment, nBytes) != 0)
         return nullptr;
-    if (pMemory != nullptr)
+    if (pMemory != nullptr) {
         ++g_nLive;
+        g_nLiveBytes += ::malloc_usable_size(pMemory);
+        g_nPeakBytes = std::max(g_nPeakBytes, g_nLiveBytes);
+    }
     return pMemory;
 }
 
@@ -52,6 +61,7 @@ void Free(void* pMemory) noexcept
     if (pMemory == nullptr)
         return;
     --g_nLive;
+    g_nLiveBytes -= ::malloc_usable_size(pMemory);
     std::free(pMemory);
 }
 
@@ -77,6 +87,16 @@ std::size_t Disarm()
 std::size_t LivePieces()
 {
     return g_nLive;
+}
+
+void StartPeak()
+{
+    g_nBytesBefore = g_nPeakBytes = g_nLiveBytes;
+}
+
+std::size_t PeakBytes()
+{
+    return g_nPeakBytes - g_nBytesBefore;
 }
 
 }  // namespace AllocationFault

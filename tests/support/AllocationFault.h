@@ -23,4 +23,10 @@ std::size_t Disarm();
 /// Pieces of memory that are allocated and not yet freed.
 std::size_t LivePieces();
 
+/// Counts from now on how much memory is taken at one time.
+void StartPeak();
+
+/// Bytes that were taken at most at one time since then, beside those that were taken before.
+std::size_t PeakBytes();
+
 }  // namespace AllocationFault

@@ -16,15 +16,15 @@ public:
     using GenerationMap = std::map<std::int64_t, std::string>;
 
     /// \param strTypeId  Of the file as a whole; the records aren't looked at.
-    explicit GenerationCsv(std::vector<Record> vecRecord,
+    explicit GenerationCsv(const std::vector<Record>& vecRecord,
                            GenerationMap mapGeneration = {},
                            std::string strTypeId = {})
     {
-        m_vecRecord = std::move(vecRecord);
+        m_table.Assign(vecRecord);
         m_mapGeneration = std::move(mapGeneration);
         m_strTypeId = std::move(strTypeId);
     }
 
-    const std::vector<Record>& GetRecords() const { return m_vecRecord; }
+    std::vector<Record> GetRecords() const { return m_table.Records(); }
     const GenerationMap& GetGenerations() const { return m_mapGeneration; }
 };

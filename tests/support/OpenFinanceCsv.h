@@ -27,11 +27,11 @@ public:
 
     OpenFile() = default;
     /// A file without a file; its mode of empty records follows the type id.
-    explicit OpenFile(std::vector<Record> vecRecord,
+    explicit OpenFile(const std::vector<Record>& vecRecord,
                       const std::string& strTypeId = {},
                       std::vector<ColInfo> vecColInfo = {})
     {
-        this->m_vecRecord = std::move(vecRecord);
+        this->m_table.Assign(vecRecord);
         this->m_strTypeId = strTypeId;
         this->m_vecColInfo = std::move(vecColInfo);
         this->setEmptyCheckMode(strTypeId);
@@ -39,15 +39,10 @@ public:
     /// A file of a family that may not exist.
     explicit OpenFile(CALL_TYPE eCallType) : File(eCallType) {}
 
-    const std::vector<Record>& GetRecords() const { return this->m_vecRecord; }
+    std::vector<Record> GetRecords() const { return this->m_table.Records(); }
     const std::vector<ColInfo>& GetColInfo() const { return this->m_vecColInfo; }
     int GetEmptyCheckMode() const { return this->m_eEmptyCheckMode; }
     bool HasGenerations() const { return !this->m_mapGeneration.empty(); }
-    bool IsEmptyAt(std::size_t nRecord) const
-    {
-        return this->isEmptyRecord(this->m_vecRecord.begin() +
-                                   static_cast<std::ptrdiff_t>(nRecord));
-    }
 };
 
 using OpenFinanceCsv = OpenFile<KZCEkaCsvFileFinance>;

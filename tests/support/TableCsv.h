@@ -9,5 +9,5 @@
 class TableCsv final : public KZCEkaCsvFile
 {
 public:
-    TableCsv(std::initializer_list<Record> listRecord) { m_vecRecord = listRecord; }
+    TableCsv(std::initializer_list<Record> listRecord) { m_table.Assign(listRecord); }
 };

@@ -225,21 +225,22 @@ const std::vector<SweptItem>& SweptItems()
 class SweepCsv final : public KZCEkaCsvFile
 {
 public:
-    SweepCsv()
-    {
-        m_vecRecord = {{"001", "", "", "", "", "4", "30", "3", "64", "1", "7",  //
-                        "5", "1", "5", "1", "", "", ""}};
-    }
+    SweepCsv() { m_table.Append(m_record); }
 
     void State(const Stated& day)
     {
-        Record& record = m_vecRecord.front();
+        Record& record = m_record;
         record[1] = std::to_string(day.nEra);
         record[2] = std::to_string(day.nYearInEra);
         record[3] = record[16] = std::to_string(day.nMonth);
         record[4] = record[17] = std::to_string(day.nDay);
         record[15] = std::to_string(day.nYear);
+        m_table.Assign({record});
     }
+
+private:
+    Record m_record = {"001", "",  "",  "",  "",  "4", "30", "3", "64",
+                       "1",   "7", "5", "1", "5", "1", "",   "",  ""};
 };
 
 /// An era code and the days that are stated in it: from the first day of its year 1 to the last day
