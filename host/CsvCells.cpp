@@ -9,6 +9,10 @@
 namespace host {
 namespace {
 
+/// Columns of a record that are held, as in the library: those behind are counted, and read as
+/// empty. A record of commas alone would take many times its size.
+constexpr std::size_t MAX_SPLIT = 262'144;
+
 std::string Trim(std::string_view strText)
 {
     return KZCMacOSNative::stringByTrimming(std::string(strText), /*bUtf8=*/true);
@@ -150,7 +154,8 @@ std::size_t CsvCells::LimitedRecordCount() const
 
 std::size_t CsvCells::ColumnCount(std::size_t nRecord) const
 {
-    return Split(nRecord).size();
+    const std::size_t nHeld = Split(nRecord).size();
+    return nHeld < MAX_SPLIT ? nHeld : nHeld + m_nSurplus;
 }
 
 bool CsvCells::IsBlank(std::size_t nRecord) const
@@ -212,9 +217,14 @@ const std::vector<std::string>& CsvCells::Split(std::size_t nRecord) const
     if (nRecord < 1 || nRecord > m_vecRecord.size())
         return m_vecCell;
     CellReader reader(m_vecRecord[nRecord - 1].strText, HasQuotes(m_eFamily));
-    do
-        m_vecCell.push_back(Trim(reader.TakeCell()));
-    while (reader.TakeComma());
+    m_nSurplus = 0;
+    do {
+        std::string strCell = reader.TakeCell();
+        if (m_vecCell.size() < MAX_SPLIT)
+            m_vecCell.push_back(Trim(strCell));
+        else
+            ++m_nSurplus;
+    } while (reader.TakeComma());
     m_nSplit = nRecord;
     return m_vecCell;
 }

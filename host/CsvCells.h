@@ -66,6 +66,7 @@ private:
     std::vector<Record> m_vecRecord;
     mutable std::size_t m_nSplit = 0;  ///< the record that m_vecCell holds; 0 for none
     mutable std::vector<std::string> m_vecCell;
+    mutable std::size_t m_nSurplus = 0;  ///< columns of that record that aren't held
 };
 
 /// The family whose library operations take the file: that of its first record's type id, which in

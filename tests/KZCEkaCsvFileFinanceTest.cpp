@@ -64,7 +64,7 @@ public:
     int ColumnTerm(std::string& strBuffer, Record& record, bool bEndOfRecord) override
     {
         const int nStatus = KZCEkaCsvFileFinance::ColumnTerm(strBuffer, record, bEndOfRecord);
-        if (!m_vecRecord.empty())
+        if (GetRecordCount() != 0)
             std::filesystem::remove(m_strFile);
         return nStatus;
     }

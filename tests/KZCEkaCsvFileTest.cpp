@@ -524,15 +524,6 @@ TEST_F(CsvFileTest, CommentInFrontOfTheRootOfTheIndexHidesEveryReport)
     EXPECT_EQ(Read(csv, "003,1,a"), "refuses 0000-00001-HE70021E");
 }
 
-TEST_F(CsvFileTest, OnlyTheFirstRecordReadsTheIndex)
-{
-    OpenCsv csv;
-    EXPECT_EQ(csv.Parse("003,1,a", false), STATUS_OK);
-    m_bundle.Write("KZEkaDefine.xml", "broken");
-    EXPECT_EQ(csv.Parse("003,2,b", false), STATUS_OK);
-    EXPECT_EQ(csv.GetRecords(), (Records{{"003", "1", "a"}, {"003", "2", "b"}}));
-}
-
 TEST_F(CsvFileTest, SecondReadingReadsTheIndexAgain)
 {
     OpenCsv csv;

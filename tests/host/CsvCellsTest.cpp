@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 namespace host {
 namespace {
 
@@ -13,6 +15,16 @@ TEST(CsvCellsTest, EmptyTextIsOneBlankRecord)
     EXPECT_EQ(cells.FilledRecordCount(), 0u);
     EXPECT_EQ(cells.FirstRecord(), std::nullopt);
     EXPECT_EQ(cells.TypeId(), "");
+}
+
+TEST(CsvCellsTest, ColumnsBehindThoseThatAreHeldAreCountedAndEmpty)
+{
+    const CsvCells cells("003" + std::string(262'142, ',') + ",held,beyond,\nnext,line");
+    EXPECT_EQ(cells.ColumnCount(1), 262'146u);
+    EXPECT_EQ(cells.Cell(1, 262'144), "held");
+    EXPECT_EQ(cells.Cell(1, 262'145), "");
+    EXPECT_EQ(cells.ColumnCount(2), 2u);
+    EXPECT_EQ(cells.Cell(2, 2), "line");
 }
 
 struct LineEndCase
