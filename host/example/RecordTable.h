@@ -17,6 +17,12 @@ class RecordTable final : public KZCEkaCsvFile
 public:
     explicit RecordTable(bool bHasGenerations = true) : m_bHasGenerations(bHasGenerations) {}
 
+    void Clear() override
+    {
+        KZCEkaCsvFile::Clear();
+        m_vecRecord.clear();
+        m_nFilled = 0;
+    }
     /// Replaces the record, or adds one behind the last.
     void Put(long lRow, Record record)
     {
