@@ -5,7 +5,7 @@
 #include <array>
 #include <cerrno>
 
-#include "Fault.h"
+#include "Status.h"
 
 namespace {
 
@@ -19,7 +19,7 @@ CharsetConverter::CharsetConverter(const char* szTo, const char* szFrom)
     : m_pDescriptor(iconv_open(szTo, szFrom))
 {
     if (m_pDescriptor == NO_DESCRIPTOR)
-        RaiseFault("CharsetConverter::CharsetConverter", szFrom);
+        throw FAULT;  // without a log, whose texts are converted here
 }
 
 CharsetConverter::~CharsetConverter()

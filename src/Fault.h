@@ -1,11 +1,7 @@
-// Status values and the one way in which a fault of the installation or the program is raised.
+// The one way in which a fault of the installation or the program is logged and raised.
 #pragma once
 
-inline constexpr int STATUS_OK = 0;
-inline constexpr int STATUS_NG = -1;
-
-/// Thrown for a fault of the installation or the program, never for an error in a filer's data.
-inline constexpr int FAULT = -1;
+#include "Status.h"
 
 /// The message of the places that catch what nobody expected.
 inline constexpr const char* UNEXPECTED_ERROR = "想定外エラーが発生しました。";

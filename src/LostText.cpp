@@ -1,6 +1,6 @@
 #include "LostText.h"
 
-#include "Fault.h"
+#include "Status.h"
 
 namespace LostText {
 
