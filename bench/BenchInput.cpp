@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string_view>
 
-#include "ShiftJis.h"
+#include "text/ShiftJis.h"
 
 namespace BenchInput {
 

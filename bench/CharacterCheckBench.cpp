@@ -4,9 +4,9 @@
 #include <memory>
 #include <string>
 
-#include "Fault.h"
 #include "KZCEkaCommon.h"
-#include "ShiftJis.h"
+#include "fault/Fault.h"
+#include "text/ShiftJis.h"
 #include "validator/KZCEkaValidItem.h"
 
 namespace {

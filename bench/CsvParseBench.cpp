@@ -4,7 +4,7 @@
 #include "BenchInput.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
-#include "ShiftJis.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

@@ -4,12 +4,12 @@
 #include <string_view>
 #include <vector>
 
-#include "Fault.h"
 #include "FuzzSupport.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
 #include "KZCValidResult.h"
-#include "XercesGuards.h"
+#include "fault/Fault.h"
+#include "xml/XercesGuards.h"
 
 namespace {
 
@@ -50,10 +50,10 @@ void ParseAcceptingAll(const std::string& strText, bool bQuote, bool bDuringChec
     FuzzSupport::UncheckedCsvFile csv;
     Require(csv.Parse(strText.c_str(), bQuote) == STATUS_OK, "a text without refusals is read");
     Require(!csv.Records().empty(), "every text has a record");
-    Require(csv.isLastRecord(static_cast<long>(csv.GetRecordCount()) - 1),
+    Require(csv.isLastRecord(csv.GetRecordCount() - 1),
             "the last record is last");
     Require(*csv.GetItem(-1, 0) == '\0' && *csv.GetItem(0, -1) == '\0' &&
-                *csv.GetItem(static_cast<long>(csv.GetRecordCount()), 0) == '\0',
+                *csv.GetItem(csv.GetRecordCount(), 0) == '\0',
             "a cell out of range is empty");
     if (bQuote)
         return;

@@ -9,13 +9,13 @@
 #include <string>
 #include <string_view>
 
-#include "Fault.h"
 #include "FuzzSupport.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaITData.h"
 #include "KZCValidResult.h"
-#include "XercesGuards.h"
 #include "definition/KZCEkaDefinition.h"
+#include "fault/Fault.h"
+#include "xml/XercesGuards.h"
 
 namespace {
 

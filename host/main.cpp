@@ -6,9 +6,9 @@
 #include <iostream>
 #include <string>
 
-#include "CommandLine.h"
-#include "Complain.h"
-#include "Language.h"
+#include "base/Complain.h"
+#include "base/Language.h"
+#include "command/CommandLine.h"
 
 namespace {
 

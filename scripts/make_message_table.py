@@ -4,7 +4,7 @@
     scripts/make_message_table.py             write the table
     scripts/make_message_table.py --check     write nothing; exit 1 if the table differs
 
-The texts come from src/EkaMsgTable.cpp, the advice from host/Advice.cpp. Needs Python 3.9 or newer
+The texts come from src/EkaMsgTable.cpp, the advice from host/rules/Advice.cpp. Needs Python 3.9 or newer
 and nothing else.
 """
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 
 std::unique_ptr<KZCConvertInfo> KZCConvertInfo::m_pInstance;
 

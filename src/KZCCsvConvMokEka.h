@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "KZCConvertResultEka.h"
-#include "XercesGuards.h"
+#include "xml/XercesGuards.h"
 
 /// All texts are NUL-terminated UTF-8 and may be null unless said otherwise. Every operation but
 /// Terminate returns the one result record, which stays owned here and shows the last request, or

@@ -1,13 +1,13 @@
 // The operations of the base family, and the two that all families share.
 #include <KZEkaMok/KZEkaMok.h>
 
-#include "FamilyTraits.h"
-#include "Fault.h"
 #include "KZCCsvConvMokEka.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaMOKManager.h"
 #include "KZCValidResult.h"
-#include "RequestSteps.h"
+#include "family/FamilyTraits.h"
+#include "fault/Fault.h"
+#include "request/RequestSteps.h"
 
 namespace {
 

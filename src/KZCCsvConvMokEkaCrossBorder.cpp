@@ -1,8 +1,8 @@
 // The operations of the CrossBorder family.
-#include "FamilyTraits.h"
 #include "KZCCsvConvMokEka.h"
 #include "KZCEkaMOKManagerCrossBorder.h"
-#include "RequestSteps.h"
+#include "family/FamilyTraits.h"
+#include "request/RequestSteps.h"
 
 namespace {
 

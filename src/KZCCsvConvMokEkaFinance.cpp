@@ -1,8 +1,8 @@
 // The operations of the Finance family.
-#include "FamilyTraits.h"
 #include "KZCCsvConvMokEka.h"
 #include "KZCEkaMOKManagerFinance.h"
-#include "RequestSteps.h"
+#include "family/FamilyTraits.h"
+#include "request/RequestSteps.h"
 
 namespace {
 

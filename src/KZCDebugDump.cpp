@@ -2,10 +2,10 @@
 
 #include <cstdlib>
 
-#include "CText.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
-#include "ShiftJis.h"
+#include "text/CText.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <span>
 #include <string_view>
 
-#include "Fault.h"
-#include "SpreadProcedure.h"
+#include "family/SpreadProcedure.h"
+#include "fault/Fault.h"
 
 namespace {
 

@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "BundleFiles.h"
-#include "CText.h"
 #include "KZCMacOSNative.h"
-#include "LostText.h"
+#include "family/BundleFiles.h"
+#include "text/CText.h"
+#include "text/LostText.h"
 
 namespace {
 

@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <utility>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
-#include "ShiftJis.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

@@ -3,15 +3,15 @@
 #include <string_view>
 #include <utility>
 
-#include "CText.h"
-#include "CsvSplitter.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaXDOM.h"
 #include "KZCMacOSNative.h"
 #include "KZCValidResult.h"
-#include "RecordLimit.h"
+#include "csv/CsvSplitter.h"
+#include "family/RecordLimit.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <map>
 #include <string>
 
-#include "CsvTable.h"
 #include "EkaMsgTable.h"
+#include "csv/CsvTable.h"
 
 /// Cells are Shift_JIS while a check runs and UTF-8 otherwise. Texts handed out stay valid until
 /// the next change of the file.

@@ -1,6 +1,6 @@
 #include "KZCEkaCsvFileCrossBorder.h"
 
-#include "Fault.h"
+#include "fault/Fault.h"
 
 int KZCEkaCsvFileCrossBorder::ReadFile(const std::string& strPath)
 {

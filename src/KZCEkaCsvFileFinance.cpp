@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "CText.h"
-#include "FamilyFolder.h"
-#include "Fault.h"
-#include "FormRange.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
-#include "SpreadProcedure.h"
+#include "family/FamilyFolder.h"
+#include "family/FormRange.h"
+#include "family/SpreadProcedure.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

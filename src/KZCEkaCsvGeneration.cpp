@@ -3,10 +3,10 @@
 #include <array>
 #include <initializer_list>
 
-#include "CText.h"
-#include "GenerationRules.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCsvFile.h"
+#include "family/GenerationRules.h"
+#include "text/CText.h"
 #include "validator/CheckDigit.h"
 #include "validator/KZCEkaValidCheckDigit.h"
 #include "validator/KZCEkaValidDigitEquality.h"

@@ -2,11 +2,11 @@
 
 #include <string_view>
 
-#include "CText.h"
-#include "Fault.h"
-#include "ITDataTables.h"
 #include "KZCEkaCommon.h"
 #include "KZCValidResult.h"
+#include "family/ITDataTables.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

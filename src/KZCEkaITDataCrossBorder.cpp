@@ -1,6 +1,6 @@
 #include "KZCEkaITDataCrossBorder.h"
 
-#include "ITDataTables.h"
+#include "family/ITDataTables.h"
 
 void KZCEkaITDataCrossBorder::Initialize(bool bPublic)
 {

@@ -1,6 +1,6 @@
 #include "KZCEkaITDataFinance.h"
 
-#include "ITDataTables.h"
+#include "family/ITDataTables.h"
 
 void KZCEkaITDataFinance::Initialize(bool bPublic)
 {

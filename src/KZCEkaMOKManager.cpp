@@ -3,15 +3,15 @@
 #include <string_view>
 #include <typeinfo>
 
-#include "DocumentParts.h"
-#include "FamilyTraits.h"
 #include "KZCConvertInfo.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCValidResult.h"
-#include "LostText.h"
-#include "ManagerFamily.h"
+#include "document/DocumentParts.h"
+#include "family/FamilyTraits.h"
+#include "family/ManagerFamily.h"
+#include "text/LostText.h"
 
 namespace {
 

@@ -4,10 +4,10 @@
 #include <memory>
 #include <string>
 
-#include "Fault.h"
 #include "KZCEkaITData.h"
 #include "KZCEkaXDOM.h"
-#include "LostText.h"
+#include "fault/Fault.h"
+#include "text/LostText.h"
 
 class KZCConvertInfo;
 struct ManagerFamily;

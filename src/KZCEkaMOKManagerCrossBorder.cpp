@@ -2,12 +2,12 @@
 
 #include <typeinfo>
 
-#include "FamilyTraits.h"
 #include "KZCConvertInfoCrossBorder.h"
 #include "KZCEkaCsvFileFinance.h"
 #include "KZCValidResult.h"
-#include "ManagerFamily.h"
 #include "definition/KZCEkaDefinitionCrossBorder.h"
+#include "family/FamilyTraits.h"
+#include "family/ManagerFamily.h"
 
 namespace {
 

@@ -2,13 +2,13 @@
 
 #include <typeinfo>
 
-#include "DocumentParts.h"
-#include "FamilyTraits.h"
 #include "KZCConvertInfoFinance.h"
 #include "KZCEkaCsvFileFinance.h"
 #include "KZCValidResult.h"
-#include "ManagerFamily.h"
 #include "definition/KZCEkaDefinitionFinance.h"
+#include "document/DocumentParts.h"
+#include "family/FamilyTraits.h"
+#include "family/ManagerFamily.h"
 
 namespace {
 

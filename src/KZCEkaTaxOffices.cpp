@@ -1,11 +1,11 @@
 #include "KZCEkaTaxOffices.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaXDOM.h"
-#include "LostText.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
+#include "text/LostText.h"
 
 namespace {
 

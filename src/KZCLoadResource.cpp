@@ -8,7 +8,7 @@
 #include <string_view>
 #include <system_error>
 
-#include "BundleFiles.h"
+#include "family/BundleFiles.h"
 
 namespace fs = std::filesystem;
 

@@ -2,11 +2,11 @@
 #include <ctime>
 #include <optional>
 
-#include "CText.h"
-#include "Clock.h"
-#include "DatePattern.h"
-#include "DateReader.h"
 #include "KZCMacOSNative.h"
+#include "calendar/Clock.h"
+#include "calendar/DatePattern.h"
+#include "calendar/DateReader.h"
+#include "text/CText.h"
 
 namespace {
 

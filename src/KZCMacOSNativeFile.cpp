@@ -16,10 +16,10 @@
 #include <optional>
 #include <system_error>
 
-#include "CText.h"
 #include "KZCLoadResource.h"
 #include "KZCMacOSNative.h"
-#include "ShiftJis.h"
+#include "text/CText.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

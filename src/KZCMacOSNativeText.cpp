@@ -3,10 +3,10 @@
 #include <array>
 #include <utility>
 
-#include "ByteClass.h"
-#include "CText.h"
 #include "KZCMacOSNative.h"
-#include "ShiftJis.h"
+#include "text/ByteClass.h"
+#include "text/CText.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

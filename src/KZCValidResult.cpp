@@ -4,7 +4,7 @@
 #include <random>
 #include <unordered_set>
 
-#include "CText.h"
+#include "text/CText.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "EkaMsgTable.h"
-#include "ErrorIndex.h"
+#include "result/ErrorIndex.h"
 
 /// One recorded error. Records and columns count from 1; record 0 is the file as a whole, record
 /// 9999 an argument of the call. nColumnEnd is -1 for a single column.

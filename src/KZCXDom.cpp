@@ -12,16 +12,16 @@
 
 #include <new>
 
-#include "BoundedXmlParser.h"
-#include "CText.h"
-#include "DocumentFile.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCMacOSNative.h"
-#include "LostText.h"
-#include "SerialiserSettings.h"
-#include "XercesMemory.h"
-#include "XmlLimits.h"
+#include "document/DocumentFile.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
+#include "text/LostText.h"
+#include "xml/BoundedXmlParser.h"
+#include "xml/SerialiserSettings.h"
+#include "xml/XercesMemory.h"
+#include "xml/XmlLimits.h"
 
 namespace {
 

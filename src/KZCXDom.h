@@ -7,7 +7,7 @@
 #include <string>
 
 #include "KZCXParser.h"
-#include "XercesGuards.h"
+#include "xml/XercesGuards.h"
 
 XERCES_CPP_NAMESPACE_BEGIN
 class DOMDocument;

@@ -5,7 +5,7 @@
 #include <string>
 #include <tuple>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/FamilyHost.h"
 
 namespace {

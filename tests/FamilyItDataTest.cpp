@@ -4,7 +4,7 @@
 #include <array>
 #include <string>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/FamilyItData.h"
 #include "support/Raised.h"
 

@@ -13,9 +13,9 @@
 #include <utility>
 #include <vector>
 
-#include "example/FileGenerator.h"
-#include "example/ProcedureRules.h"
-#include "example/RecordGenerator.h"
+#include "generate/FileGenerator.h"
+#include "generate/ProcedureRules.h"
+#include "generate/RecordGenerator.h"
 #include "support/CellSpoiler.h"
 #include "support/Environment.h"
 #include "support/ResetState.h"

@@ -12,7 +12,7 @@
 #include <sstream>
 #include <string>
 
-#include "Clock.h"
+#include "calendar/Clock.h"
 #include "support/Environment.h"
 #include "support/ResetState.h"
 #include "support/SameText.h"

@@ -4,10 +4,10 @@
 
 #include <typeinfo>
 
-#include "Fault.h"
 #include "KZCEkaCsvFileCrossBorder.h"
 #include "KZCEkaITDataCrossBorder.h"
 #include "definition/KZCEkaDefinitionCrossBorder.h"
+#include "fault/Fault.h"
 #include "support/FamilyDefinition.h"
 #include "support/ResetState.h"
 #include "support/StorePeek.h"

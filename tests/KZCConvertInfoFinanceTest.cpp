@@ -4,11 +4,11 @@
 
 #include <typeinfo>
 
-#include "Fault.h"
 #include "KZCConvertInfoCrossBorder.h"
 #include "KZCEkaCsvFileFinance.h"
 #include "KZCEkaITDataFinance.h"
 #include "definition/KZCEkaDefinitionFinance.h"
+#include "fault/Fault.h"
 #include "support/FamilyDefinition.h"
 #include "support/Raised.h"
 #include "support/ResetState.h"

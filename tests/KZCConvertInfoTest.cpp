@@ -7,7 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/Raised.h"
 #include "support/ResetState.h"

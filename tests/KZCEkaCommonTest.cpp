@@ -4,7 +4,7 @@
 
 #include <clocale>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/DebugLog.h"
 #include "support/LogEntries.h"

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/OpenFinanceCsv.h"

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/LogEntries.h"
 #include "support/LogMessages.h"
 #include "support/OpenFinanceCsv.h"

@@ -11,7 +11,7 @@
 #include <utility>
 #include <vector>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"

@@ -5,7 +5,7 @@
 #include <ostream>
 #include <string>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/ResetState.h"

@@ -12,9 +12,9 @@
 #include <string_view>
 #include <vector>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCConvertInfo.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/LogEntries.h"

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/DebugLog.h"
 #include "support/Environment.h"

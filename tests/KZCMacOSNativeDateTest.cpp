@@ -6,8 +6,8 @@
 #include <string>
 #include <tuple>
 
-#include "Clock.h"
 #include "KZCMacOSNative.h"
+#include "calendar/Clock.h"
 #include "support/Environment.h"
 #include "support/ResetState.h"
 

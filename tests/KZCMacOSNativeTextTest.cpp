@@ -6,8 +6,8 @@
 #include <set>
 
 #include "KZCMacOSNative.h"
-#include "ShiftJis.h"
 #include "support/ShiftJisText.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // One batch at a time in an output folder.
 #pragma once
 
-#include "files/Descriptor.h"
+#include "file/Descriptor.h"
 
 namespace host {
 

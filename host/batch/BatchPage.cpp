@@ -12,14 +12,14 @@
 #include <set>
 #include <tuple>
 
-#include "DetailTable.h"
-#include "HtmlAssets.h"
-#include "HtmlText.h"
-#include "Language.h"
-#include "SafeText.h"
+#include "base/Language.h"
+#include "base/SafeText.h"
 #include "batch/FileState.h"
 #include "batch/Journal.h"
-#include "files/FilePlace.h"
+#include "file/FilePlace.h"
+#include "form/DetailTable.h"
+#include "report/HtmlAssets.h"
+#include "report/HtmlText.h"
 
 namespace host {
 namespace {

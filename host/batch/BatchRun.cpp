@@ -13,19 +13,19 @@
 #include <system_error>
 #include <utility>
 
-#include "Complain.h"
-#include "ReportWords.h"
-#include "SafeText.h"
-#include "SourceFile.h"
-#include "UsageError.h"
-#include "WholeFile.h"
+#include "base/Complain.h"
+#include "base/SafeText.h"
+#include "base/UsageError.h"
 #include "batch/BatchPage.h"
 #include "batch/EarlierDocument.h"
 #include "batch/Interrupt.h"
 #include "batch/MemoryLimit.h"
 #include "batch/OptionsHash.h"
-#include "files/FilePlace.h"
-#include "files/PrivateFolder.h"
+#include "file/FilePlace.h"
+#include "file/PrivateFolder.h"
+#include "file/SourceFile.h"
+#include "file/WholeFile.h"
+#include "report/ReportWords.h"
 
 namespace fs = std::filesystem;
 

@@ -9,7 +9,7 @@
 #include <unordered_set>
 #include <vector>
 
-#include "ExitStatus.h"
+#include "base/ExitStatus.h"
 #include "batch/BatchLock.h"
 #include "batch/BatchTotals.h"
 #include "batch/FileList.h"
@@ -17,7 +17,7 @@
 #include "batch/Journal.h"
 #include "batch/Progress.h"
 #include "batch/WorkerPool.h"
-#include "files/Descriptor.h"
+#include "file/Descriptor.h"
 
 namespace host {
 

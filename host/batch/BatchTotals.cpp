@@ -2,8 +2,8 @@
 
 #include <ostream>
 
-#include "ReportWords.h"
-#include "SafeText.h"
+#include "base/SafeText.h"
+#include "report/ReportWords.h"
 
 namespace host {
 

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "ExitStatus.h"
-#include "Outcome.h"
+#include "base/ExitStatus.h"
+#include "base/Outcome.h"
 
 namespace host {
 

@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <string_view>
 
-#include "files/FilePlace.h"
+#include "file/FilePlace.h"
 
 namespace host {
 namespace {

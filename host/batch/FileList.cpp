@@ -15,8 +15,8 @@
 #include <unordered_map>
 #include <utility>
 
-#include "SourceFile.h"
-#include "files/FilePlace.h"
+#include "file/FilePlace.h"
+#include "file/SourceFile.h"
 
 namespace fs = std::filesystem;
 

@@ -10,17 +10,17 @@
 #include <nlohmann/json.hpp>
 #include <utility>
 
-#include "CheckFile.h"
-#include "ConvertFile.h"
-#include "FormDefinition.h"
-#include "JsonReport.h"
-#include "Language.h"
-#include "Profile.h"
-#include "SafeText.h"
-#include "UsageError.h"
-#include "XercesGuards.h"
+#include "base/Language.h"
+#include "base/SafeText.h"
+#include "base/UsageError.h"
 #include "batch/Journal.h"
-#include "files/FilePlace.h"
+#include "file/FilePlace.h"
+#include "form/FormDefinition.h"
+#include "report/JsonReport.h"
+#include "request/CheckFile.h"
+#include "request/ConvertFile.h"
+#include "request/Profile.h"
+#include "xml/XercesGuards.h"
 
 namespace fs = std::filesystem;
 

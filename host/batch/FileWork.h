@@ -7,12 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "Family.h"
-#include "FileReport.h"
-#include "FilerFields.h"
-#include "Report.h"
 #include "batch/FileList.h"
 #include "batch/WorkerPool.h"
+#include "form/Family.h"
+#include "report/Report.h"
+#include "request/FileReport.h"
+#include "request/FilerFields.h"
 
 namespace host {
 

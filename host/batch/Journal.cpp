@@ -15,11 +15,11 @@
 #include <utility>
 #include <vector>
 
-#include "JsonReport.h"
-#include "Language.h"
-#include "ShiftJis.h"
-#include "WholeFile.h"
-#include "files/LineReader.h"
+#include "base/Language.h"
+#include "file/LineReader.h"
+#include "file/WholeFile.h"
+#include "report/JsonReport.h"
+#include "text/ShiftJis.h"
 
 namespace host {
 namespace {

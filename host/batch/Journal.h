@@ -11,11 +11,11 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "ExitStatus.h"
-#include "FileReport.h"
+#include "base/ExitStatus.h"
 #include "batch/FileState.h"
-#include "files/FilePlace.h"
-#include "files/PendingFile.h"
+#include "file/FilePlace.h"
+#include "file/PendingFile.h"
+#include "request/FileReport.h"
 
 namespace host {
 

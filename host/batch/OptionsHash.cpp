@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "KZCLoadResource.h"
-#include "Language.h"
+#include "base/Language.h"
 
 namespace fs = std::filesystem;
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
-#include "Language.h"
+#include "base/Language.h"
 
 namespace host {
 namespace {

@@ -1,26 +1,8 @@
 #include "lint/CheckColumns.h"
 
-#include <algorithm>
-
-#include "CText.h"
-#include "CheckShape.h"
+#include "rules/CheckShape.h"
 
 namespace host {
-namespace {
-
-/// Farther numbers say no more, and would overflow when they are reckoned with.
-long InReach(long lNumber)
-{
-    constexpr long NUMBER_MAX = 1'000'000'000;
-    return std::clamp(lNumber, -NUMBER_MAX, NUMBER_MAX);
-}
-
-}  // namespace
-
-long ReadNumber(const XmlElement& element, const char* szAttribute)
-{
-    return InReach(CText::ReadLong(element.Attribute(szAttribute).c_str()));
-}
 
 long CellsFromColumn(const LintCheck& check, const std::string& strTypeId)
 {

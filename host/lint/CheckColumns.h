@@ -8,8 +8,6 @@
 
 namespace host {
 
-long ReadNumber(const XmlElement& element, const char* szAttribute);
-
 /// Cells from the check's column on that it looks at or whose error stands there; 0 if it needs no
 /// column. The keyword is known.
 long CellsFromColumn(const LintCheck& check, const std::string& strTypeId);

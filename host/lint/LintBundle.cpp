@@ -7,16 +7,23 @@
 #include <set>
 #include <utility>
 
-#include "BundleFiles.h"
-#include "FamilyFolder.h"
-#include "FormDefinition.h"
 #include "KZCMacOSNative.h"
-#include "RecordLimit.h"
 #include "definition/SearchBounds.h"
-#include "lint/CheckColumns.h"
+#include "family/BundleFiles.h"
+#include "family/FamilyFolder.h"
+#include "family/RecordLimit.h"
+#include "form/FormDefinition.h"
+#include "text/CText.h"
 
 namespace host {
 namespace {
+
+/// Farther numbers say no more, and would overflow when they are reckoned with.
+long InReach(long lNumber)
+{
+    constexpr long NUMBER_MAX = 1'000'000'000;
+    return std::clamp(lNumber, -NUMBER_MAX, NUMBER_MAX);
+}
 
 constexpr std::array<Family, 2> FOLDER_FAMILIES = {Family::Finance, Family::CrossBorder};
 
@@ -530,6 +537,11 @@ std::size_t Distance(const std::string& strFirst, const std::string& strSecond)
 }
 
 }  // namespace
+
+long ReadNumber(const XmlElement& element, const char* szAttribute)
+{
+    return InReach(CText::ReadLong(element.Attribute(szAttribute).c_str()));
+}
 
 long LintFile::MaxRecord() const
 {

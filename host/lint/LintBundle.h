@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "Family.h"
-#include "FormDefinition.h"
 #include "KZCDefinitionManager.h"
-#include "SpreadProcedure.h"
-#include "XmlTree.h"
+#include "family/SpreadProcedure.h"
+#include "form/Family.h"
+#include "form/FormDefinition.h"
+#include "form/XmlTree.h"
 #include "lint/LintReport.h"
 #include "validator/ItemCatalogue.h"
 
@@ -120,6 +120,9 @@ LintBundle ReadLintBundle(const std::string& strPath,
 /// Hangs the items of a form below their parents as the library does, and reports what can't be
 /// hung.
 void PlaceItems(const LintFile& file, LintForm& form, LintReport& report);
+
+/// The number of an attribute as the library reads it, but within a thousand million.
+long ReadNumber(const XmlElement& element, const char* szAttribute);
 
 /// The columns of a record (both from 1) in a file of so many records; 0 if no form is for it.
 long ColumnsOfRecord(const LintFile& checks, long lRecord, long lCount);

@@ -4,8 +4,8 @@
 #include <set>
 #include <string_view>
 
-#include "GenerationRules.h"
-#include "JoinedText.h"
+#include "base/JoinedText.h"
+#include "family/GenerationRules.h"
 #include "lint/LintTopics.h"
 
 namespace host {

@@ -4,13 +4,13 @@
 #include <optional>
 #include <string_view>
 
-#include "CText.h"
-#include "CheckShape.h"
 #include "EkaMsgTable.h"
 #include "KZCMacOSNative.h"
-#include "ShiftJis.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintTopics.h"
+#include "rules/CheckShape.h"
+#include "text/CText.h"
+#include "text/ShiftJis.h"
 #include "validator/AgeWord.h"
 #include "validator/DateGroup.h"
 #include "validator/DateLiteral.h"

@@ -4,9 +4,9 @@
 #include <iterator>
 #include <set>
 
-#include "CheckShape.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintTopics.h"
+#include "rules/CheckShape.h"
 
 namespace host {
 namespace {

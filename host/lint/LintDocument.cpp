@@ -4,8 +4,8 @@
 #include <set>
 #include <tuple>
 
-#include "GenerationRules.h"
-#include "JoinedText.h"
+#include "base/JoinedText.h"
+#include "family/GenerationRules.h"
 #include "lint/CheckColumns.h"
 #include "lint/LintPages.h"
 #include "lint/LintTopics.h"

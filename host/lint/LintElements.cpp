@@ -4,8 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "CheckShape.h"
 #include "lint/LintTopics.h"
+#include "rules/CheckShape.h"
 
 namespace host {
 namespace {

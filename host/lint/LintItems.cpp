@@ -4,11 +4,11 @@
 #include <set>
 #include <string_view>
 
-#include "GenerationRules.h"
-#include "ITDataTables.h"
-#include "JoinedText.h"
+#include "base/JoinedText.h"
 #include "definition/DefinitionLimits.h"
 #include "definition/KZCEkaMOKDefineNode.h"
+#include "family/GenerationRules.h"
+#include "family/ITDataTables.h"
 #include "lint/LintTopics.h"
 
 namespace host {

@@ -6,11 +6,11 @@
 #include <set>
 #include <string>
 
-#include "BundleFiles.h"
 #include "KZCEkaXDOM.h"
 #include "definition/KZCEkaDefinition.h"
 #include "definition/KZCEkaDefinitionCrossBorder.h"
 #include "definition/KZCEkaDefinitionFinance.h"
+#include "family/BundleFiles.h"
 #include "lint/LintTopics.h"
 
 namespace host {

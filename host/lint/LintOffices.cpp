@@ -3,9 +3,9 @@
 #include <map>
 #include <set>
 
-#include "BundleFiles.h"
-#include "ShiftJis.h"
+#include "family/BundleFiles.h"
 #include "lint/LintTopics.h"
+#include "text/ShiftJis.h"
 
 namespace host {
 namespace {

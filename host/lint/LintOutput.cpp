@@ -4,9 +4,9 @@
 #include <nlohmann/json.hpp>
 #include <ostream>
 
-#include "JsonReport.h"
-#include "Language.h"
-#include "SafeText.h"
+#include "base/Language.h"
+#include "base/SafeText.h"
+#include "report/JsonReport.h"
 
 namespace host {
 namespace {

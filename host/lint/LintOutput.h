@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "ExitStatus.h"
+#include "base/ExitStatus.h"
 #include "lint/LintFinding.h"
 
 namespace host {

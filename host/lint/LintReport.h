@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "Language.h"
+#include "base/Language.h"
 #include "lint/LintFinding.h"
 #include "lint/LintRules.h"
 

@@ -4,7 +4,7 @@
 #include <iosfwd>
 #include <span>
 
-#include "Language.h"
+#include "base/Language.h"
 #include "lint/LintFinding.h"
 
 namespace host {

@@ -1,13 +1,13 @@
 #include "KZCEkaDefinition.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaXDOM.h"
 #include "definition/DefinitionLimits.h"
 #include "definition/RunOnDefinition.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

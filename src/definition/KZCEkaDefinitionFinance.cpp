@@ -4,19 +4,19 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "CText.h"
-#include "FamilyFolder.h"
-#include "Fault.h"
-#include "FormRange.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaITDataFinance.h"
 #include "KZCEkaXDOM.h"
 #include "KZCValidResult.h"
-#include "SpreadProcedure.h"
 #include "definition/DefinitionLimits.h"
 #include "definition/RunOnDefinition.h"
+#include "family/FamilyFolder.h"
+#include "family/FormRange.h"
+#include "family/SpreadProcedure.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

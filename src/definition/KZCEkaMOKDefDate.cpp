@@ -1,7 +1,7 @@
 #include "KZCEkaMOKDefDate.h"
 
-#include "Fault.h"
 #include "KZCDebugDump.h"
+#include "fault/Fault.h"
 
 int KZCEkaMOKDefDate::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow)
 {

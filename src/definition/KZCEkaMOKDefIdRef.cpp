@@ -1,7 +1,7 @@
 #include "KZCEkaMOKDefIdRef.h"
 
-#include "CText.h"
 #include "KZCValidResult.h"
+#include "text/CText.h"
 
 std::string KZCEkaMOKDefIdRef::WriteNode(const KZCEkaCsvFile* pCsv, long /*lRow*/)
 {

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaITData.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 int KZCEkaMOKDefReport::Initialize(const char* szReportId, const char* szReportVR)
 {

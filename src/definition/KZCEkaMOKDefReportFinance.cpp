@@ -2,12 +2,12 @@
 
 #include <algorithm>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaITDataFinance.h"
 #include "KZCValidResult.h"
 #include "definition/DefinitionLimits.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "KZCEkaMOKDefZeimusho.h"
 
-#include "Fault.h"
+#include "fault/Fault.h"
 
 int KZCEkaMOKDefZeimusho::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow)
 {

@@ -4,13 +4,13 @@
 #include <string_view>
 #include <utility>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaXDOM.h"
 #include "definition/SearchBounds.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

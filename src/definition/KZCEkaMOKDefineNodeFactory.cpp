@@ -4,7 +4,6 @@
 #include <memory>
 #include <string_view>
 
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaXDOM.h"
 #include "definition/KZCEkaMOKDefBango.h"
@@ -16,6 +15,7 @@
 #include "definition/KZCEkaMOKDefZeimusho.h"
 #include "definition/KZCEkaMOKDefZip.h"
 #include "definition/KZCEkaMOKDefineNode.h"
+#include "fault/Fault.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // The one way out of a walk over a loaded definition.
 #pragma once
 
-#include "Fault.h"
+#include "fault/Fault.h"
 
 /// Runs a step over a loaded definition; whatever it throws is logged and becomes FAULT.
 template <class Step>

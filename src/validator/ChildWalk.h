@@ -1,8 +1,8 @@
 // Goes over the children of an XML element and comes back.
 #pragma once
 
-#include "Fault.h"
 #include "KZCDebugDump.h"
+#include "fault/Fault.h"
 
 /// Calls visit for each element child of the cursor's element, in order, until one gives another
 /// status than STATUS_OK. The cursor is back on return.

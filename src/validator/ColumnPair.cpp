@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "CText.h"
 #include "KZCEkaCsvFile.h"
+#include "text/CText.h"
 
 void ColumnPair::Set(const char* szValue, const char* szMin, const char* szMax)
 {

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "CText.h"
+#include "text/CText.h"
 
 namespace DateLiteral {
 

@@ -4,7 +4,7 @@
 #include <span>
 #include <string>
 
-#include "EraTable.h"
+#include "calendar/EraTable.h"
 
 namespace EraSpan {
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCValidResult.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 #include "validator/AgeWord.h"
 
 void KZCEkaValidAge::SetParam(const char* szValue, const char* szMin, const char* szMax)

@@ -1,6 +1,6 @@
 #include "KZCEkaValidAlnum.h"
 
-#include "ByteClass.h"
+#include "text/ByteClass.h"
 
 KZCEkaMessage_t KZCEkaValidAlnum::_validate(const char* szValue)
 {

@@ -1,6 +1,6 @@
 #include "KZCEkaValidAlnumsbl.h"
 
-#include "ByteClass.h"
+#include "text/ByteClass.h"
 
 KZCEkaMessage_t KZCEkaValidAlnumsbl::_validate(const char* szValue)
 {

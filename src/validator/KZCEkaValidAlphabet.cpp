@@ -1,6 +1,6 @@
 #include "KZCEkaValidAlphabet.h"
 
-#include "ByteClass.h"
+#include "text/ByteClass.h"
 
 KZCEkaMessage_t KZCEkaValidAlphabet::_validate(const char* szValue)
 {

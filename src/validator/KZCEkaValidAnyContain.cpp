@@ -1,9 +1,9 @@
 #include "KZCEkaValidAnyContain.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCEkaCsvFile.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidAnyContain::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {

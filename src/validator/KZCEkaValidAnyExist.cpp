@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCEkaCsvFile.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidAnyExist::SetParam(const char* szValue)
 {

@@ -1,7 +1,7 @@
 #include "KZCEkaValidCheckDigit.h"
 
-#include "ByteClass.h"
-#include "CText.h"
+#include "text/ByteClass.h"
+#include "text/CText.h"
 #include "validator/CheckDigit.h"
 
 namespace {

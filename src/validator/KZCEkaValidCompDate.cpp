@@ -1,8 +1,8 @@
 #include "KZCEkaValidCompDate.h"
 
-#include "CText.h"
 #include "DateLiteral.h"
 #include "KZCMacOSNative.h"
+#include "text/CText.h"
 
 void KZCEkaValidCompDate::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {

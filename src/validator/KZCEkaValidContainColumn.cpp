@@ -1,7 +1,7 @@
 #include "KZCEkaValidContainColumn.h"
 
-#include "Fault.h"
 #include "KZCEkaCsvFile.h"
+#include "fault/Fault.h"
 
 void KZCEkaValidContainColumn::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {

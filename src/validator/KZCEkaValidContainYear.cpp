@@ -1,8 +1,8 @@
 #include "KZCEkaValidContainYear.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidContainYear::SetParam(const char* szValue)
 {

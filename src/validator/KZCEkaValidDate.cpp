@@ -4,14 +4,14 @@
 #include <array>
 #include <limits>
 
-#include "ByteClass.h"
-#include "CText.h"
-#include "EraTable.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCMacOSNative.h"
+#include "calendar/EraTable.h"
+#include "fault/Fault.h"
+#include "text/ByteClass.h"
+#include "text/CText.h"
 #include "validator/KZCEkaValidCharlength.h"
 #include "validator/RangeVerdict.h"
 #include "validator/Wrapping.h"

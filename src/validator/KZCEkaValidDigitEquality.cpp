@@ -1,6 +1,6 @@
 #include "KZCEkaValidDigitEquality.h"
 
-#include "CText.h"
+#include "text/CText.h"
 
 namespace {
 

@@ -1,9 +1,9 @@
 #include "KZCEkaValidEqualyear.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidEqualyear::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {

@@ -1,7 +1,7 @@
 #include "KZCEkaValidExceptColumn.h"
 
-#include "Fault.h"
 #include "KZCEkaCsvFile.h"
+#include "fault/Fault.h"
 
 void KZCEkaValidExceptColumn::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {

@@ -1,12 +1,12 @@
 #include "KZCEkaValidExistDateYYYYMMDD.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCMacOSNative.h"
 #include "KZCValidResult.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

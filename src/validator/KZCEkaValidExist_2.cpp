@@ -1,9 +1,9 @@
 #include "KZCEkaValidExist_2.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCEkaCsvFile.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 #include "validator/DateGroup.h"
 
 KZCEkaMessage_t KZCEkaValidExist_2::_validate(const char* szValue)

@@ -1,9 +1,9 @@
 #include "KZCEkaValidExistdate.h"
 
-#include "ByteClass.h"
-#include "CText.h"
 #include "EraSpan.h"
 #include "KZCMacOSNative.h"
+#include "text/ByteClass.h"
+#include "text/CText.h"
 
 namespace {
 

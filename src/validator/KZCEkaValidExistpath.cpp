@@ -1,7 +1,7 @@
 #include "KZCEkaValidExistpath.h"
 
-#include "CText.h"
 #include "KZCMacOSNative.h"
+#include "text/CText.h"
 
 namespace {
 

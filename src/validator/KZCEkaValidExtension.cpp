@@ -1,6 +1,6 @@
 #include "KZCEkaValidExtension.h"
 
-#include "CText.h"
+#include "text/CText.h"
 
 void KZCEkaValidExtension::SetParam(const char* szValue)
 {

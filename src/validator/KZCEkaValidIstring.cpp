@@ -3,10 +3,10 @@
 #include <optional>
 #include <string_view>
 
-#include "CText.h"
 #include "IstringTable.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
+#include "text/CText.h"
 
 namespace {
 

@@ -4,13 +4,13 @@
 #include <new>
 #include <utility>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCValidResult.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 KZCEkaValidItem::KZCEkaValidItem(long lColumn, KZCEkaMessage_t eMessage)
     : m_eMessage(eMessage), m_lColumn(lColumn)

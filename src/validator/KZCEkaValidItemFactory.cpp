@@ -4,8 +4,8 @@
 #include <span>
 #include <string_view>
 
-#include "CText.h"
 #include "KZCDebugDump.h"
+#include "text/CText.h"
 #include "validator/ItemCatalogue.h"
 #include "validator/KZCEkaValidAge.h"
 #include "validator/KZCEkaValidAlnum.h"

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "CText.h"
+#include "text/CText.h"
 
 void KZCEkaValidLength::SetParam(const char* szValue, const char* szMax)
 {

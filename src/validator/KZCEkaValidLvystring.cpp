@@ -4,8 +4,8 @@
 #include <array>
 #include <functional>
 
-#include "CText.h"
 #include "KZCEkaCommon.h"
+#include "text/CText.h"
 
 namespace {
 

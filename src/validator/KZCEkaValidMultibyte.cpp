@@ -2,9 +2,9 @@
 
 #include <string_view>
 
-#include "CText.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
+#include "text/CText.h"
 
 KZCEkaMessage_t KZCEkaValidMultibyte::_validate(const char* szValue)
 {

@@ -2,8 +2,8 @@
 
 #include <string_view>
 
-#include "CText.h"
 #include "Katakana.h"
+#include "text/CText.h"
 
 KZCEkaMessage_t KZCEkaValidMultikana::_validate(const char* szValue)
 {

@@ -4,8 +4,8 @@
 #include <array>
 #include <string_view>
 
-#include "CText.h"
 #include "Katakana.h"
+#include "text/CText.h"
 
 namespace {
 

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCValidResult.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidNonerr::SetParam(const char* szValue, const char* szMin)
 {

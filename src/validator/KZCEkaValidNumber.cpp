@@ -1,6 +1,6 @@
 #include "KZCEkaValidNumber.h"
 
-#include "ByteClass.h"
+#include "text/ByteClass.h"
 
 KZCEkaMessage_t KZCEkaValidNumber::_validate(const char* szValue)
 {

@@ -1,9 +1,9 @@
 #include "KZCEkaValidOnward.h"
 
-#include "CText.h"
 #include "DateLiteral.h"
 #include "KZCMacOSNative.h"
 #include "RangeVerdict.h"
+#include "text/CText.h"
 
 void KZCEkaValidOnward::SetParam(const char* szValue)
 {

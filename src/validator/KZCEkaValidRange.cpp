@@ -1,6 +1,6 @@
 #include "KZCEkaValidRange.h"
 
-#include "CText.h"
+#include "text/CText.h"
 
 void KZCEkaValidRange::SetParam(const char* szMin, const char* szMax)
 {

@@ -1,8 +1,8 @@
 #include "KZCEkaValidRangebasedate.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidRangebasedate::SetParam(const char* szValue, const char* szMin, const char* szMax)
 {

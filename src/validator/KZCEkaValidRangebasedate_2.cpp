@@ -1,10 +1,10 @@
 #include "KZCEkaValidRangebasedate_2.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCMacOSNative.h"
 #include "RangeVerdict.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 KZCEkaValidRangebasedate_2::Bound::Bound(const char* szParameter)
     : strParameter(CText::OrEmpty(szParameter)),

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "CText.h"
 #include "DateLiteral.h"
+#include "text/CText.h"
 
 namespace {
 

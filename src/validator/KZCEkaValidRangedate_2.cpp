@@ -1,8 +1,8 @@
 #include "KZCEkaValidRangedate_2.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidRangedate_2::SetParam(const char* szMin, const char* szMax)
 {

@@ -1,9 +1,9 @@
 #include "KZCEkaValidRangedate_3.h"
 
-#include "CText.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 void KZCEkaValidRangedate_3::SetParam(const char* szValue)
 {

@@ -1,7 +1,7 @@
 #include "KZCEkaValidRangedate_4.h"
 
-#include "CText.h"
 #include "DateLiteral.h"
+#include "text/CText.h"
 
 void KZCEkaValidRangedate_4::SetParam(const char* szMin, const char* szMax)
 {

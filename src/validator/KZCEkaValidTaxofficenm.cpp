@@ -1,11 +1,11 @@
 #include "KZCEkaValidTaxofficenm.h"
 
-#include "Fault.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaCsvFile.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCMacOSNative.h"
 #include "Wrapping.h"
+#include "fault/Fault.h"
 
 int KZCEkaValidTaxofficenm::ValidateCsv(const KZCEkaCsvFile* pCsv, long lRow, long lColumn)
 {

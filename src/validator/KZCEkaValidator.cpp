@@ -2,11 +2,11 @@
 
 #include <utility>
 
-#include "CText.h"
 #include "ChildWalk.h"
-#include "Fault.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaXDOM.h"
+#include "fault/Fault.h"
+#include "text/CText.h"
 
 namespace {
 

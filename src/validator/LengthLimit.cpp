@@ -1,6 +1,6 @@
 #include "LengthLimit.h"
 
-#include "CText.h"
+#include "text/CText.h"
 
 void LengthLimit::Set(const char* szValue, const char* szMax)
 {

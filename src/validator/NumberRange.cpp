@@ -1,8 +1,8 @@
 #include "NumberRange.h"
 
-#include "CText.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
+#include "text/CText.h"
 
 void NumberRange::Set(const char* szMin, const char* szMax)
 {

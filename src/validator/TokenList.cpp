@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "CText.h"
 #include "KZCEkaCommon.h"
 #include "KZCMacOSNative.h"
+#include "text/CText.h"
 
 void TokenList::Set(const char* szParameter)
 {

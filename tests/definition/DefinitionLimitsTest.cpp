@@ -11,12 +11,12 @@
 #include <utility>
 #include <vector>
 
-#include "Fault.h"
 #include "KZCEkaITDataFinance.h"
 #include "KZCValidResult.h"
 #include "definition/KZCEkaDefinition.h"
 #include "definition/KZCEkaDefinitionFinance.h"
 #include "definition/KZCEkaMOKDefReportFinance.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/FamilyDefinition.h"

@@ -9,7 +9,6 @@
 #include <string>
 #include <vector>
 
-#include "Fault.h"
 #include "KZCEkaITData.h"
 #include "KZCEkaITDataCrossBorder.h"
 #include "definition/KZCEkaDefinition.h"
@@ -23,6 +22,7 @@
 #include "definition/KZCEkaMOKDefTAG.h"
 #include "definition/KZCEkaMOKDefZeimusho.h"
 #include "definition/KZCEkaMOKDefZip.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/FamilyDefinition.h"

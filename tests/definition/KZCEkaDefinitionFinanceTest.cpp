@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCEkaITDataFinance.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/FamilyDefinition.h"

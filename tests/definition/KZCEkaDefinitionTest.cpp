@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCEkaITData.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/Bundle.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "Fault.h"
 #include "KZCValidResult.h"
+#include "fault/Fault.h"
 #include "support/GenerationCsv.h"
 #include "support/NodeTree.h"
 #include "support/Raised.h"

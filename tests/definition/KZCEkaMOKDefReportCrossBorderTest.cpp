@@ -5,9 +5,9 @@
 #include <memory>
 #include <string>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCEkaITDataCrossBorder.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 #include "support/GenerationCsv.h"
 #include "support/NodeTree.h"
 #include "support/PagingModel.h"

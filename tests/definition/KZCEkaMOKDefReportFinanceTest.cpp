@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCEkaITDataFinance.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 #include "support/GenerationCsv.h"
 #include "support/LogEntries.h"
 #include "support/NodeTree.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCEkaITData.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"
 #include "support/NodeTree.h"

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"
 #include "support/NodeTree.h"

@@ -8,7 +8,6 @@
 #include <typeinfo>
 #include <vector>
 
-#include "Fault.h"
 #include "definition/KZCEkaMOKDefBango.h"
 #include "definition/KZCEkaMOKDefDate.h"
 #include "definition/KZCEkaMOKDefIdRef.h"
@@ -17,6 +16,7 @@
 #include "definition/KZCEkaMOKDefTAG.h"
 #include "definition/KZCEkaMOKDefZeimusho.h"
 #include "definition/KZCEkaMOKDefZip.h"
+#include "fault/Fault.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"
 #include "support/LogMessages.h"

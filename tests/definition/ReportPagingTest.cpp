@@ -10,11 +10,11 @@
 #include <type_traits>
 #include <vector>
 
-#include "Clock.h"
-#include "Fault.h"
 #include "KZCEkaITDataCrossBorder.h"
+#include "calendar/Clock.h"
 #include "definition/KZCEkaDefinitionCrossBorder.h"
 #include "definition/KZCEkaMOKDefReportCrossBorder.h"
+#include "fault/Fault.h"
 #include "support/CheckItem.h"
 #include "support/GenerationCsv.h"
 #include "support/NodeTree.h"

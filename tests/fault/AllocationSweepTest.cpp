@@ -11,10 +11,10 @@
 #include <string>
 #include <tuple>
 
-#include "Clock.h"
-#include "XercesGuards.h"
+#include "calendar/Clock.h"
 #include "support/AllocationFault.h"
 #include "support/FamilyHost.h"
+#include "xml/XercesGuards.h"
 
 namespace {
 

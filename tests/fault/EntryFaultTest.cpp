@@ -13,8 +13,8 @@
 #include <utility>
 #include <vector>
 
-#include "Fault.h"
 #include "KZCEkaMOKManager.h"
+#include "fault/Fault.h"
 #include "support/AllocationFault.h"
 #include "support/FamilyHost.h"
 #include "support/LogEntries.h"

@@ -4,7 +4,7 @@
 #include <string>
 #include <tuple>
 
-#include "Fault.h"
+#include "fault/Fault.h"
 #include "support/AllocationFault.h"
 #include "support/FamilyHost.h"
 #include "support/LogEntries.h"

@@ -5,16 +5,16 @@
 #include <optional>
 #include <string>
 
-#include "Fault.h"
 #include "KZCEkaXDOM.h"
 #include "KZCMacOSNative.h"
-#include "LostText.h"
+#include "fault/Fault.h"
 #include "support/AllocationFault.h"
 #include "support/Bundle.h"
 #include "support/LogText.h"
 #include "support/Raised.h"
 #include "support/ResetState.h"
 #include "support/TempFolder.h"
+#include "text/LostText.h"
 
 namespace {
 

@@ -9,9 +9,9 @@
 #include <string>
 #include <utility>
 
-#include "Fault.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCEkaXDOM.h"
+#include "fault/Fault.h"
 #include "support/AllocationFault.h"
 #include "support/Bundle.h"
 #include "support/RecordCase.h"

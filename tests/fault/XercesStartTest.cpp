@@ -6,10 +6,10 @@
 #include <cstdlib>
 
 #include "KZCCsvConvMokEka.h"
-#include "XercesGuards.h"
 #include "support/AllocationFault.h"
 #include "support/DebugLog.h"
 #include "support/FamilyDefinition.h"
+#include "xml/XercesGuards.h"
 
 namespace {
 

@@ -8,10 +8,10 @@
 #include <string>
 #include <vector>
 
-#include "CsvCells.h"
 #include "KZCEkaCsvFileCrossBorder.h"
 #include "KZCEkaCsvFileFinance.h"
-#include "SourceFile.h"
+#include "file/CsvCells.h"
+#include "file/SourceFile.h"
 #include "support/ResetState.h"
 #include "support/TempFolder.h"
 

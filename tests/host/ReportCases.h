@@ -4,8 +4,8 @@
 #include <memory>
 #include <string>
 
-#include "FileReport.h"
-#include "Language.h"
+#include "base/Language.h"
+#include "request/FileReport.h"
 
 namespace host {
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "CheckShape.h"
 #include "ShiftJisText.h"
-#include "example/RecordGenerator.h"
+#include "generate/RecordGenerator.h"
+#include "rules/CheckShape.h"
 
 using namespace host;
 

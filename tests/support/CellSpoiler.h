@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "example/FormRules.h"
-#include "example/RecordTable.h"
+#include "generate/FormRules.h"
+#include "generate/RecordTable.h"
 
 /// A record of which one cell is spoiled.
 struct SpoiledRecord

@@ -10,8 +10,8 @@
 #include <string>
 
 #include "EkaMsgTable.h"
-#include "Fault.h"
 #include "KZCValidResult.h"
+#include "fault/Fault.h"
 #include "validator/KZCEkaValidItem.h"
 
 /// The text of a check that passes, refuses without a record, or raises FAULT.

@@ -8,12 +8,12 @@
 #include <string_view>
 
 #include "CheckItem.h"
-#include "Clock.h"
 #include "FamilyDefinition.h"
 #include "FamilySide.h"
-#include "Fault.h"
 #include "ResetState.h"
 #include "TempFolder.h"
+#include "calendar/Clock.h"
+#include "fault/Fault.h"
 
 /// \tparam Side  FinanceSide or CrossBorderSide.
 template <class Side>

@@ -5,14 +5,14 @@
 
 #include <optional>
 
-#include "Clock.h"
 #include "KZCConvertInfo.h"
 #include "KZCDebugDump.h"
 #include "KZCEkaCommon.h"
 #include "KZCEkaTaxOffices.h"
 #include "KZCValidResult.h"
-#include "XercesGuards.h"
+#include "calendar/Clock.h"
 #include "definition/KZCEkaMOKDefReportFinance.h"
+#include "xml/XercesGuards.h"
 
 /// Starts each test with the state of a process that has just loaded the library, leaves it so, and
 /// keeps the XML library running meanwhile. Works in constructor and destructor, so that a fixture

@@ -8,11 +8,11 @@
 #include <stdexcept>
 #include <string>
 
-#include "ShiftJis.h"
 #include "support/CheckItem.h"
 #include "support/DebugLog.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
+#include "text/ShiftJis.h"
 #include "validator/IstringTable.h"
 
 namespace {

@@ -5,10 +5,10 @@
 #include <set>
 #include <string>
 
-#include "ShiftJis.h"
 #include "support/CheckItem.h"
 #include "support/ResetState.h"
 #include "support/ShiftJisText.h"
+#include "text/ShiftJis.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <cerrno>
 #include <filesystem>
 
-#include "files/FilePlace.h"
+#include "file/FilePlace.h"
 #include "support/TempFolder.h"
 
 namespace host {

@@ -6,9 +6,9 @@
 
 #include <filesystem>
 
-#include "HtmlAssets.h"
-#include "files/Descriptor.h"
-#include "files/FilePlace.h"
+#include "file/Descriptor.h"
+#include "file/FilePlace.h"
+#include "report/HtmlAssets.h"
 #include "support/TempFolder.h"
 
 namespace host {

@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include "files/FilePlace.h"
+#include "file/FilePlace.h"
 #include "support/TempFolder.h"
 
 namespace host {

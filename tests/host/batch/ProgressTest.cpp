@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "Language.h"
+#include "base/Language.h"
 
 namespace host {
 namespace {
