@@ -2,7 +2,9 @@
 add_library(kzekamok_compile INTERFACE)
 
 target_compile_options(kzekamok_compile INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+    "$<$<COMPILE_LANGUAGE:CXX>:-Wsign-conversion;-Wold-style-cast;-Wnon-virtual-dtor;-Woverloaded-virtual>"
+    "$<$<COMPILE_LANG_AND_ID:CXX,GNU>:-Wuseless-cast;-Wduplicated-cond;-Wlogical-op>"
     $<$<BOOL:${KZEKAMOK_WARNINGS_AS_ERRORS}>:-Werror>
     -ffunction-sections -fdata-sections)
 target_link_options(kzekamok_compile INTERFACE -Wl,--gc-sections)
