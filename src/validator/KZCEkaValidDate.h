@@ -1,4 +1,4 @@
-// Base of the date checks and the one place that knows the eras.
+// Base of the date checks. The eras are in calendar/EraTable.h.
 #pragma once
 
 #include <cstdint>
