@@ -50,8 +50,7 @@ void ParseAcceptingAll(const std::string& strText, bool bQuote, bool bDuringChec
     FuzzSupport::UncheckedCsvFile csv;
     Require(csv.Parse(strText.c_str(), bQuote) == STATUS_OK, "a text without refusals is read");
     Require(!csv.Records().empty(), "every text has a record");
-    Require(csv.isLastRecord(csv.GetRecordCount() - 1),
-            "the last record is last");
+    Require(csv.isLastRecord(csv.GetRecordCount() - 1), "the last record is last");
     Require(*csv.GetItem(-1, 0) == '\0' && *csv.GetItem(0, -1) == '\0' &&
                 *csv.GetItem(csv.GetRecordCount(), 0) == '\0',
             "a cell out of range is empty");

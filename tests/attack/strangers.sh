@@ -16,35 +16,35 @@ stranger ln -s "$work/victim" free/a.mok
 run convert a.csv "${base[@]}" -o free/a.mok
 expect_status 4 "a stranger's link"
 expect_equal "$(cat victim)" precious "a stranger's link"
-mkdir -m 1777 shared
-stranger ln -s "$work/victim" shared/a.mok
-run convert a.csv "${base[@]}" -o shared/a.mok
+mkdir -m 1777 public
+stranger ln -s "$work/victim" public/a.mok
+run convert a.csv "${base[@]}" -o public/a.mok
 expect_status 4 "a stranger's link in a sticky folder"
 expect_in out "Permission denied" "a stranger's link in a sticky folder"
-stranger ln -s "$work/victim" shared/report
-run check a.csv --format json -o shared/report
+stranger ln -s "$work/victim" public/report
+run check a.csv --format json -o public/report
 expect_status 4 "a stranger's link as a report"
 expect_equal "$(cat victim)" precious "a stranger's link in a sticky folder"
 mkdir aside
-stranger ln -s "$work/aside" shared/folder
-run convert a.csv "${base[@]}" -o shared/folder/a.mok
+stranger ln -s "$work/aside" public/folder
+run convert a.csv "${base[@]}" -o public/folder/a.mok
 expect_status 4 "a stranger's link to a folder"
 expect_equal "$(ls -A aside)" "" "a stranger's link to a folder"
-run batch in -o shared/folder "${filer[@]}"
+run batch in -o public/folder "${filer[@]}"
 expect_status 4 "a stranger's link as the output folder"
 expect_equal "$(ls -A aside)" "" "a stranger's link as the output folder"
-ln -s "$work/aside/own.mok" shared/own.mok
-run convert a.csv "${base[@]}" -o shared/own.mok
+ln -s "$work/aside/own.mok" public/own.mok
+run convert a.csv "${base[@]}" -o public/own.mok
 expect_status 0 "an own link in a sticky folder"
 [ -s aside/own.mok ] || fail "an own link in a sticky folder is followed"
 
 # --- a stranger's pipe with a reader in a sticky folder ---
 
-stranger mkfifo shared/pipe.mok
-stranger cat shared/pipe.mok >stolen &
-run_at_once convert a.csv "${base[@]}" -o shared/pipe.mok
+stranger mkfifo public/pipe.mok
+stranger cat public/pipe.mok >stolen &
+run_at_once convert a.csv "${base[@]}" -o public/pipe.mok
 expect_status 4 "a stranger's pipe"
-: >shared/pipe.mok
+: >public/pipe.mok
 wait
 expect_equal "$(wc -c <stolen)" 0 "a stranger's pipe gets nothing"
 

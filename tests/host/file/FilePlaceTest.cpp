@@ -99,27 +99,27 @@ TEST_F(FilePlaceTest, StrangersLinkIsNotFollowedWhereOthersMayWrite)
     if (geteuid() != 0)
         GTEST_SKIP() << "only root can make another user's link";
     folder.MakeFolder("target");
-    folder.MakeFolder("shared");
-    Link("../target", "shared/folder");
-    Link("../target/file", "shared/file");
-    GiveAway("shared/folder");
-    GiveAway("shared/file");
-    EXPECT_EQ(Found("shared/file"), "target/file") << "its folder's owner alone writes there";
+    folder.MakeFolder("public");
+    Link("../target", "public/folder");
+    Link("../target/file", "public/file");
+    GiveAway("public/folder");
+    GiveAway("public/file");
+    EXPECT_EQ(Found("public/file"), "target/file") << "its folder's owner alone writes there";
     for (const mode_t mode : {mode_t{01777}, mode_t{0777}, mode_t{0770}}) {
-        ASSERT_EQ(chmod(folder.Path("shared").c_str(), mode), 0);
-        EXPECT_EQ(Found("shared/file"), std::to_string(EACCES)) << std::oct << mode;
-        EXPECT_EQ(Found("shared/folder/x"), std::to_string(EACCES)) << std::oct << mode;
+        ASSERT_EQ(chmod(folder.Path("public").c_str(), mode), 0);
+        EXPECT_EQ(Found("public/file"), std::to_string(EACCES)) << std::oct << mode;
+        EXPECT_EQ(Found("public/folder/x"), std::to_string(EACCES)) << std::oct << mode;
     }
-    ASSERT_EQ(chown(folder.Path("shared").c_str(), STRANGER, STRANGER), 0);
-    EXPECT_EQ(Found("shared/file"), "target/file") << "the folder's owner may do what he likes";
+    ASSERT_EQ(chown(folder.Path("public").c_str(), STRANGER, STRANGER), 0);
+    EXPECT_EQ(Found("public/file"), "target/file") << "the folder's owner may do what he likes";
 }
 
 TEST_F(FilePlaceTest, OwnLinkIsFollowedWhereOthersMayWrite)
 {
-    folder.MakeFolder("shared");
-    Link("../file", "shared/file");
-    ASSERT_EQ(chmod(folder.Path("shared").c_str(), 01777), 0);
-    EXPECT_EQ(Found("shared/file"), "./file");
+    folder.MakeFolder("public");
+    Link("../file", "public/file");
+    ASSERT_EQ(chmod(folder.Path("public").c_str(), 01777), 0);
+    EXPECT_EQ(Found("public/file"), "./file");
 }
 
 TEST_F(FilePlaceTest, FoldersAreMadeIfWanted)
