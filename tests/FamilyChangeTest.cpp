@@ -76,10 +76,10 @@ INSTANTIATE_TEST_SUITE_P(Orders,
                                                           Between::Convert,
                                                           Between::ElCheck,
                                                           Between::ElConvert)),
-                         [](const auto& info) {
-                             return testing::PrintToString(std::get<0>(info.param)) + "Then" +
-                                    testing::PrintToString(std::get<1>(info.param)) +
-                                    testing::PrintToString(std::get<2>(info.param));
+                         [](const auto& testCase) {
+                             return testing::PrintToString(std::get<0>(testCase.param)) + "Then" +
+                                    testing::PrintToString(std::get<1>(testCase.param)) +
+                                    testing::PrintToString(std::get<2>(testCase.param));
                          });
 
 TEST_P(FamilyChangeTest, KeptFileSurvivesElRequestsOfItsOwnFamilyAlone)
@@ -149,7 +149,9 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Families,
                          ItTextTest,
                          testing::Values(Family::Finance, Family::CrossBorder),
-                         [](const auto& info) { return testing::PrintToString(info.param); });
+                         [](const auto& testCase) {
+                             return testing::PrintToString(testCase.param);
+                         });
 
 TEST_P(ItTextTest, LaterBaseDocumentRefersToTheTextOfAPlainConversionOfAnotherFamily)
 {

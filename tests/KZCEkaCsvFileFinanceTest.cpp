@@ -514,8 +514,9 @@ TEST_P(FinanceCsvLogNameTest, RefusalIsLoggedOnceUnderItsOperation)
     m_bundle.Write("Finance/PGE2040vld.xml", ReportFile({""}));
     const DebugLog log;
     OpenFinanceCsv csv;
-    if (Read(csv, GetParam().strText) == PASSES)
+    if (Read(csv, GetParam().strText) == PASSES) {
         EXPECT_THAT(Check(csv), testing::StartsWith(REFUSES));
+    }
     EXPECT_THAT(LogEntries(log), testing::ElementsAre(GetParam().entry));
 }
 
@@ -979,8 +980,8 @@ constexpr LimitCase LIMIT_CASES[] = {
 INSTANTIATE_TEST_SUITE_P(TypeIds,
                          FinanceCsvLimitTest,
                          testing::ValuesIn(LIMIT_CASES),
-                         [](const auto& info) {
-                             return std::string("TypeId") + info.param.szTypeId;
+                         [](const auto& testCase) {
+                             return std::string("TypeId") + testCase.param.szTypeId;
                          });
 
 TEST_F(FinanceCsvTest, AThousandRecordsInAFilePass)

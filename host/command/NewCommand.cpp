@@ -163,9 +163,9 @@ ExitStatus NewCommand::Run()
         strBytes = MakeExample(rules, definitions.Bundle(), folder.Path(), nRecords, m_nSeed);
     } catch (const UsageError&) {
         throw;
-    } catch (const std::runtime_error& error) {
+    } catch (const std::runtime_error& fault) {
         Complain(Say(NO_EXAMPLE, {MakeSafe(m_strTypeId)}));
-        std::cerr << MakeSafe(error.what()) << '\n';
+        std::cerr << MakeSafe(fault.what()) << '\n';
         return ExitStatus::NotChecked;
     }
 

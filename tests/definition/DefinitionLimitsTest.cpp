@@ -323,8 +323,9 @@ TEST_P(HeadRowLimitsTest, RowsAreTakenAsTheyStandUpToAMillion)
     }
     EXPECT_FALSE(Fails());
     EXPECT_EQ(head.Asked(), GetParam().lAsked + 1);
-    if (GetParam().lAsked > 0)
+    if (GetParam().lAsked > 0) {
         EXPECT_EQ(head.Last(), GetParam().nEnd);
+    }
     EXPECT_THAT(LogEntries(log), ElementsAre());
 }
 

@@ -445,8 +445,8 @@ const HeadCase HEADS[] = {
     {"LargestStart", LONG_MAX, 1, ""},
 };
 
-INSTANTIATE_TEST_SUITE_P(Rows, HeadRowsTest, testing::ValuesIn(HEADS), [](const auto& info) {
-    return std::string(info.param.szName);
+INSTANTIATE_TEST_SUITE_P(Rows, HeadRowsTest, testing::ValuesIn(HEADS), [](const auto& testCase) {
+    return std::string(testCase.param.szName);
 });
 
 TEST_F(ReportFinanceTest, HeadThatBeginsAbsurdlyFarBeforeTheFileRaises)

@@ -319,9 +319,10 @@ TEST_P(EveryPagingTest, MultiRecordNodeOpensAndClosesPagesAsTheModelDoes)
     CompareAll(Writer::MULTI_RECORD);
 }
 
-INSTANTIATE_TEST_SUITE_P(Bodies, EveryPagingTest, testing::ValuesIn(BODIES), [](const auto& info) {
-    return std::string(info.param.szName);
-});
+INSTANTIATE_TEST_SUITE_P(Bodies,
+                         EveryPagingTest,
+                         testing::ValuesIn(BODIES),
+                         [](const auto& testCase) { return std::string(testCase.param.szName); });
 
 // ---- tags left open ----------------------------------------------------------------------------
 

@@ -210,10 +210,11 @@ INSTANTIATE_TEST_SUITE_P(Families,
                                                           Shape::ElCheck,
                                                           Shape::ElConvert),
                                           testing::Values(Kind::Once, Kind::FromThere)),
-                         [](const auto& info) {
-                             return testing::PrintToString(std::get<0>(info.param)) +
-                                    testing::PrintToString(std::get<1>(info.param)) +
-                                    (std::get<2>(info.param) == Kind::Once ? "Once" : "FromThere");
+                         [](const auto& testCase) {
+                             return testing::PrintToString(std::get<0>(testCase.param)) +
+                                    testing::PrintToString(std::get<1>(testCase.param)) +
+                                    (std::get<2>(testCase.param) == Kind::Once ? "Once"
+                                                                               : "FromThere");
                          });
 
 INSTANTIATE_TEST_SUITE_P(AllFamilies,
@@ -221,9 +222,10 @@ INSTANTIATE_TEST_SUITE_P(AllFamilies,
                          testing::Combine(testing::Values(Family::Base),
                                           testing::Values(Shape::Write, Shape::Terminate),
                                           testing::Values(Kind::Once, Kind::FromThere)),
-                         [](const auto& info) {
-                             return testing::PrintToString(std::get<1>(info.param)) +
-                                    (std::get<2>(info.param) == Kind::Once ? "Once" : "FromThere");
+                         [](const auto& testCase) {
+                             return testing::PrintToString(std::get<1>(testCase.param)) +
+                                    (std::get<2>(testCase.param) == Kind::Once ? "Once"
+                                                                               : "FromThere");
                          });
 
 }  // namespace

@@ -226,9 +226,9 @@ INSTANTIATE_TEST_SUITE_P(Requests,
                                                           Shape::Convert,
                                                           Shape::ElCheck,
                                                           Shape::ElConvert)),
-                         [](const auto& info) {
-                             return testing::PrintToString(std::get<0>(info.param)) +
-                                    testing::PrintToString(std::get<1>(info.param));
+                         [](const auto& testCase) {
+                             return testing::PrintToString(std::get<0>(testCase.param)) +
+                                    testing::PrintToString(std::get<1>(testCase.param));
                          });
 
 TEST_P(ClosingFaultTest, TableThatCannotBeRenderedStaysAndIsLoggedOnce)
@@ -396,6 +396,6 @@ const CFunction C_FUNCTIONS[] = {
 INSTANTIATE_TEST_SUITE_P(Functions,
                          CFunctionTest,
                          testing::ValuesIn(C_FUNCTIONS),
-                         [](const auto& info) { return std::string(info.param.szName); });
+                         [](const auto& testCase) { return std::string(testCase.param.szName); });
 
 }  // namespace

@@ -107,9 +107,9 @@ INSTANTIATE_TEST_SUITE_P(Requests,
                                                           Shape::Convert,
                                                           Shape::ElCheck,
                                                           Shape::ElConvert)),
-                         [](const auto& info) {
-                             return testing::PrintToString(std::get<0>(info.param)) +
-                                    testing::PrintToString(std::get<1>(info.param));
+                         [](const auto& testCase) {
+                             return testing::PrintToString(std::get<0>(testCase.param)) +
+                                    testing::PrintToString(std::get<1>(testCase.param));
                          });
 
 TEST_P(FamilyFaultTest, FaultIsToldButInThePlainRequestsOfTheCrossBorderFamily)
@@ -225,7 +225,9 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Families,
                          CheckFlagTest,
                          testing::ValuesIn(FAMILIES),
-                         [](const auto& info) { return testing::PrintToString(info.param); });
+                         [](const auto& testCase) {
+                             return testing::PrintToString(testCase.param);
+                         });
 
 TEST_P(CheckFlagTest, FaultOfAPlainCheckLeavesItUpInTheCrossBorderFamilyAlone)
 {
@@ -292,7 +294,9 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Families,
                          SecondReadingTest,
                          testing::ValuesIn(FAMILIES),
-                         [](const auto& info) { return testing::PrintToString(info.param); });
+                         [](const auto& testCase) {
+                             return testing::PrintToString(testCase.param);
+                         });
 
 TEST_P(SecondReadingTest, FaultFailsTheCheckButInTheCrossBorderFamily)
 {

@@ -36,7 +36,9 @@ protected:
 INSTANTIATE_TEST_SUITE_P(Families,
                          SerialisationFaultTest,
                          testing::ValuesIn(FAMILIES),
-                         [](const auto& info) { return testing::PrintToString(info.param); });
+                         [](const auto& testCase) {
+                             return testing::PrintToString(testCase.param);
+                         });
 
 TEST_P(SerialisationFaultTest, IsLoggedByBothLayersAndRefusesTheDocument)
 {

@@ -446,8 +446,8 @@ constexpr ZipCase ZIP_CASES[] = {
     {Family::CrossBorder, Path::El, "9999-00011-HE70001E", "9999-00012-HE70001E"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Families, ZipTest, testing::ValuesIn(ZIP_CASES), [](const auto& info) {
-    return testing::PrintToString(info.param);
+INSTANTIATE_TEST_SUITE_P(Families, ZipTest, testing::ValuesIn(ZIP_CASES), [](const auto& testCase) {
+    return testing::PrintToString(testCase.param);
 });
 
 class NewFamilyTest : public RequestStepsTest, public testing::WithParamInterface<Family>
@@ -600,7 +600,9 @@ const OrderCase ORDER_CASES[] = {
 INSTANTIATE_TEST_SUITE_P(Families,
                          FieldOrderTest,
                          testing::ValuesIn(ORDER_CASES),
-                         [](const auto& info) { return testing::PrintToString(info.param); });
+                         [](const auto& testCase) {
+                             return testing::PrintToString(testCase.param);
+                         });
 
 // ---- repeated errors ---------------------------------------------------------------------------
 

@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(
                     LocaleCase{"AllOverMessages", "ja", "C", "C", Language::Japanese},
                     LocaleCase{"EmptyIsNotSet", "", "", "ja_JP", Language::Japanese},
                     LocaleCase{"Another", "de_DE", nullptr, "ja_JP", Language::English}),
-    [](const auto& info) { return info.param.szName; });
+    [](const auto& testCase) { return testCase.param.szName; });
 
 }  // namespace
 }  // namespace host

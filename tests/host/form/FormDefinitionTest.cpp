@@ -225,7 +225,7 @@ INSTANTIATE_TEST_SUITE_P(Numbers,
                                          ColumnsCase{"Most", "10000", 10000},
                                          ColumnsCase{"OneTooMany", "10001", 10000},
                                          ColumnsCase{"Huge", "2000000000", 10000}),
-                         [](const auto& info) { return std::string(info.param.szName); });
+                         [](const auto& testCase) { return std::string(testCase.param.szName); });
 
 TEST(HugeColumnTest, ColumnsOfItemsAndChecksStayWithinWhatAFormMayHave)
 {

@@ -851,8 +851,8 @@ TEST_P(ShippedWordsTest, EveryCheckOfEveryProcedureIsSaidWholly)
 INSTANTIATE_TEST_SUITE_P(Languages,
                          ShippedWordsTest,
                          testing::Values(Language::English, Language::Japanese),
-                         [](const auto& info) {
-                             return info.param == Language::English ? "English" : "Japanese";
+                         [](const auto& testCase) {
+                             return testCase.param == Language::English ? "English" : "Japanese";
                          });
 
 }  // namespace

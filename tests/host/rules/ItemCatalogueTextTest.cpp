@@ -106,8 +106,8 @@ TEST_P(ItemCatalogueTextTest, PlaceOfErrorsIsNeverEmpty)
 INSTANTIATE_TEST_SUITE_P(Languages,
                          ItemCatalogueTextTest,
                          testing::Values(Language::English, Language::Japanese),
-                         [](const auto& info) {
-                             return info.param == Language::English ? "English" : "Japanese";
+                         [](const auto& testCase) {
+                             return testCase.param == Language::English ? "English" : "Japanese";
                          });
 
 TEST(ItemAttributesTest, ListsWhatTheItemReads)
