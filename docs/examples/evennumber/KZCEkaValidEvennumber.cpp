@@ -1,7 +1,7 @@
 #include "KZCEkaValidEvennumber.h"
 
-#include "ByteClass.h"
-#include "CText.h"
+#include "text/ByteClass.h"
+#include "text/CText.h"
 
 KZCEkaMessage_t KZCEkaValidEvennumber::_validate(const char* szValue)
 {
