@@ -1,5 +1,6 @@
 #include "batch/MemoryLimit.h"
 
+#include <malloc.h>
 #include <sys/resource.h>
 #include <unistd.h>
 
@@ -83,6 +84,7 @@ void LimitMemory(std::uint64_t nBytes, volatile bool* pHit)
         return;
     g_pHit = pHit;
     std::set_new_handler(NoMemory);
+    malloc_trim(0);  // what the process has given back to its heap would be room beyond the limit
     struct rlimit limit = {};
     getrlimit(RLIMIT_DATA, &limit);
     limit.rlim_cur = std::min<rlim_t>(DataOfProcess() + nBytes, limit.rlim_max);

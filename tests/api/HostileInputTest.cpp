@@ -778,7 +778,7 @@ Cases DefinitionCases()
                     strText += " a" + std::to_string(n) + "=\"\"";
                 return strText + ">" + SMALL_REPORT + "</d>";
             }(),
-            CheckPassed("PGE5080")),
+            FAULT_OUTCOME),
         DefinitionCase("HundredThousandChainedItemsFailTheCheck", RunCheck, FreeForm(strChain),
                        FAULT_OUTCOME),
         DefinitionCase("HundredThousandChainedItemsFailTheConversion", RunConvert,

@@ -33,7 +33,7 @@ KZEKAMOK_BUNDLE=$work/no.bundle run --lang ja check pass.csv
 expect_in out "リソースフォルダー $work/no.bundle がありません。" "a missing resource folder"
 echo 'x = "1"' >wrong.toml
 run --lang ja convert pass.csv --profile wrong.toml -o out.mok
-expect_in err 'プロファイル wrong.toml："x" というキーはありません。' "an unknown key"
+expect_in err 'プロファイル wrong.toml：1行目："x" というキーはありません。' "an unknown key"
 
 # complain MESSAGE ARGUMENT...: wrong usage, which the parser finds.
 complain() {

@@ -57,7 +57,7 @@ private:
     static std::string WithoutMemory()
     {
         try {
-            return std::string(64 * MEBIBYTES, 'x').substr(0, 1);
+            return std::string(256 * MEBIBYTES, 'x').substr(0, 1);
         } catch (const std::bad_alloc&) {
             return "none";
         }
