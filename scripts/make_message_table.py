@@ -14,7 +14,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 TEXT_SOURCE = ROOT / "src" / "EkaMsgTable.cpp"
-ADVICE_SOURCE = ROOT / "host" / "Advice.cpp"
+ADVICE_SOURCE = ROOT / "host" / "rules" / "Advice.cpp"
 TABLE = ROOT / "docs" / "messages.md"
 
 # A row begins with its code; texts follow, each of one or several literals side by side.
