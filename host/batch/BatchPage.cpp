@@ -270,7 +270,7 @@ void BatchPage::AppendSummary(std::string& strHtml) const
         strHtml += std::string("<li><b class=\"") + OutcomeStyle(eOutcome) + "\">" +
                    Number(nFiles) + "</b>" + OutcomeWord(eOutcome) + "</li>\n";
         strBar += std::string("<rect class=\"") + OutcomeStyle(eOutcome) + "\" x=\"" +
-                  Number(nBefore) + "\" width=\"" + Number(nFiles) + "\" height=\"1\"/>";
+                  Number(nBefore) + "\" width=\"" + Number(nFiles) + R"(" height="1"/>)";
         nBefore += nFiles;
     }
     strHtml += R"(</ul>

@@ -15,7 +15,7 @@ namespace {
 
 /// How every document begins.
 constexpr std::string_view BEGINNING =
-    "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"no\" ?><DATA ";
+    R"(<?xml version="1.0" encoding="UTF-8" standalone="no" ?><DATA )";
 
 bool BeginsAsDocument(int nFile)
 {

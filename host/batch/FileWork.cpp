@@ -29,7 +29,7 @@ namespace {
 
 constexpr const char* PROFILE_ENDING = ".toml";
 /// The rest of a line are names: that of the file and of its document.
-constexpr std::size_t REPORT_LONGEST = Journal::LINE_LONGEST - 1024 * 1024;
+constexpr std::size_t REPORT_LONGEST = Journal::LINE_LONGEST - std::size_t{1024} * 1024;
 constexpr std::size_t PACKED_HEAD = 2;  // outcome and status
 
 class FileWork final : public Work

@@ -6,7 +6,7 @@
 
 namespace host {
 
-constexpr std::uint64_t MEBIBYTE = 1024 * 1024;
+constexpr std::uint64_t MEBIBYTE = std::uint64_t{1024} * 1024;
 
 /// For all of a process that began so: any more memory fails, by std::bad_alloc where it is asked
 /// for by new. What the process has already doesn't count. \param nBytes  0 for no limit. \param

@@ -8,7 +8,7 @@
 namespace host {
 
 /// Bytes that a profile may have: its 18 fields of at most 100 characters take a tenth of it.
-inline constexpr std::size_t PROFILE_MAX_BYTES = 64 * 1024;
+inline constexpr std::size_t PROFILE_MAX_BYTES = std::size_t{64} * 1024;
 
 /// The bytes of a profile that the user named, whatever kind of file it is: a pipe, too.
 /// Throws UsageError if it can't be read or is too long.

@@ -23,7 +23,8 @@ std::u16string SystemId(const char* szPath)
     xercesc::XMLPlatformUtils::removeDotSlash(strId.data());
     if (bRelative)
         xercesc::XMLPlatformUtils::removeDotDotSlash(strId.data());
-    return strId.c_str();  // shorter now
+    strId.resize(std::char_traits<char16_t>::length(strId.c_str()));  // shorter now
+    return strId;
 }
 
 }  // namespace
