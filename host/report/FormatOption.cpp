@@ -32,6 +32,7 @@ void AddFormatOption(CLI::App& command,
                      const Text& help)
 {
     std::vector<std::string> vecName;
+    vecName.reserve(vecFormat.size());
     for (const Format eOffered : vecFormat)
         vecName.emplace_back(FormatName(eOffered));
     command
