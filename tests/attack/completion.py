@@ -51,6 +51,10 @@ HOSTILE = [
     "0\\;>canary",
 ]
 SECONDS = 60  # for one answer of a shell
+# Each key starts the program, and one with sanitizers starts slowly: there a third of the lines, another
+# for each command, as the program's part is the same list whatever the line.
+STEP = 3 if os.environ.get("KZEKAMOK_SLOW_BUILD") else 1
+BEGINNINGS = ["", "0", "$", "\\$", "\\`", "\\;", "*", "x", "{", "\\<", "\u202e"]
 
 
 def definition():
@@ -151,13 +155,13 @@ class Attack:
     def try_all(self, shell, name):
         shown = shell.enter("kzekamok layout 00\t")
         self.expect("# Type 001: honest" in shown, f"{name} completes the honest type id: {shown!r}")
-        for command in ("layout", "rules", "new", "lint --type"):
-            for begin in ["", "0", "$", "\\$", "\\`", "\\;", "*", "x", "{", "\\<", "\u202e"]:
+        for place, command in enumerate(("layout", "rules", "new", "lint --type")):
+            for begin in BEGINNINGS[place % STEP::STEP]:
                 self.try_line(shell, name, f"kzekamok {command} {begin}\t\t\t")
             # zsh closes a quote by itself.
             for quote in "'\"" if name == "bash" else "":
                 self.try_line(shell, name, f"kzekamok {command} {quote}\t\t{quote}")
-        for number in range(len(HOSTILE)):
+        for number in range(0, len(HOSTILE), STEP):
             self.try_line(shell, name, f"kzekamok check file{number}/\t\t")
             self.try_line(shell, name, f"kzekamok check folder{number}/\t\t\t\t")
             self.try_line(shell, name, f"kzekamok check a.csv --output=folder{number}/\t\t\t\t")
