@@ -30,8 +30,9 @@ def cases_of(report):
         return
     cases = list(root.iter("testcase"))
     if not cases:
-        passed = int(root.get("tests")) - int(root.get("failures"))
-        yield from [(root.tag, "passed", "")] * passed
+        failed = int(root.get("failures"))
+        yield from [(root.tag, "passed", "")] * (int(root.get("tests")) - failed)
+        yield from [(root.tag, "failed", "")] * failed
     for case in cases:
         failures = [failure.get("message") or failure.text or "" for failure in case.iter("failure")]
         verdict = "passed"
@@ -44,8 +45,8 @@ def cases_of(report):
 
 def cases_of_entry(entry, report):
     """The same for one entry of ctest."""
-    cases = list(cases_of(report)) if report.exists() else []
     output = entry.findtext("system-out") or ""
+    cases = [(name, verdict, text or output) for name, verdict, text in cases_of(report)] if report.exists() else []
     verdict = "passed" if entry.get("status") == "run" else "failed"
     skipped = entry.find("skipped")
     if skipped is not None and "SKIP_RETURN_CODE" in (skipped.get("message") or ""):

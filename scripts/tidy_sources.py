@@ -67,7 +67,8 @@ def main():
         chosen = {path for path, output in sources.items()
                   if path in changed or not compiled.get(output) or compiled[output] & changed}
     print(f"{len(chosen)} of {len(sources)} sources: {reason}", file=sys.stderr)
-    print("\n".join(str(path) for path in sorted(chosen)))
+    for path in sorted(chosen):
+        print(path)
 
 
 main()
